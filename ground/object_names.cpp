@@ -1,0 +1,10 @@
+#include "ground/object_names.h"
+
+#include "util/module_flag.h"
+
+namespace {
+module_flag module;
+}  // namespace
+
+int object_names_start() { return module.start(); }
+int object_names_tidyup() { return module.tidyup(); }

@@ -1,0 +1,63 @@
+// The substitute host: a small game stand-in that loads editor.dll, supplies
+// every host operation over an in-memory sample mission, and offers each
+// request from its menus.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+#include "editor_api.h"
+#include "host/alloc_tracker.h"
+
+struct host_app {
+    HWND main_window = nullptr;
+    HWND log_view = nullptr;
+    HMODULE dll = nullptr;
+    editor_init_fn init = nullptr;
+    editor_tidyup_fn tidyup = nullptr;
+    editor_update_fn update = nullptr;
+    editor_win_messages_fn win_messages = nullptr;
+    editor_window_fn window = nullptr;
+    is_editor_window_fn is_editor = nullptr;
+
+    alloc_tracker memory;
+    editor_state state{};  // what the host believes the editor shows
+    std::string settings_folder;
+    std::string settings_file = "editor.ini";
+    std::string gallery;  // tour mode: where screenshots go; empty when interactive
+
+    // Sends the current state to the editor.
+    void send_state();
+    // Appends a line to the host's log window (and to stdout in the tour).
+    void log(const std::string &line);
+};
+
+host_app &app();
+
+// Menu entries contributed by the host's feature files. Each feature file
+// registers itself; the main window builds its menus from the registry, and
+// the tour runs each feature's tour function in registration order.
+struct host_feature {
+    const char *menu;   // top-level menu text
+    const char *label;  // item text
+    void (*run)();      // what the menu item does
+    void (*tour)();     // opens the feature's windows with sample data for screenshots; may be null
+    int order;          // tour and menu order among features (lower first)
+};
+int register_host_feature(const host_feature &feature);
+const std::vector<host_feature> &host_features();
+
+#define HOST_FEATURE_CONCAT2(a, b) a##b
+#define HOST_FEATURE_CONCAT(a, b) HOST_FEATURE_CONCAT2(a, b)
+#define HOST_FEATURE(...) \
+    static const int HOST_FEATURE_CONCAT(host_feature_, __LINE__) = register_host_feature(host_feature{__VA_ARGS__})
+
+// Saves a PNG picture of a window under the gallery folder (tour mode only).
+void tour_screenshot(HWND window, const std::string &name);
+// Shows a dialog the host owns for a moment, screenshots it under `name`, and
+// closes it with `close_id` (IDCANCEL by default); for use inside tour functions.
+// Runs `open` (which shows a modal window titled `title`).
+int tour_modal(const std::string &title, const std::string &name, int (*open)(), int close_id = IDCANCEL);

@@ -1,0 +1,254 @@
+// The substitute host's main window, its menus, and the tour that
+// screenshots every window the editor has.
+#include <cstdio>
+#include <cstring>
+#include <algorithm>
+
+#include "host/host_app.h"
+#include "host/png.h"
+#include "host/sample_mission.h"
+#include "host/ui_driver.h"
+
+namespace {
+constexpr int first_feature_command = 40000;
+constexpr int command_exit = 100;
+
+std::vector<host_feature> &registry() {
+    static std::vector<host_feature> features;
+    return features;
+}
+
+template <class F>
+F export_of(HMODULE dll, const char *name) {
+    // Through void * because FARPROC's type says nothing of the real signature.
+    return reinterpret_cast<F>(reinterpret_cast<void *>(GetProcAddress(dll, name)));
+}
+
+bool load_editor(host_app &a) {
+    a.dll = LoadLibraryA("editor.dll");
+    if (!a.dll) return false;
+    a.init = export_of<editor_init_fn>(a.dll, "editor_init");
+    a.tidyup = export_of<editor_tidyup_fn>(a.dll, "editor_tidyup");
+    a.update = export_of<editor_update_fn>(a.dll, "editor_update");
+    a.win_messages = export_of<editor_win_messages_fn>(a.dll, "editor_win_messages");
+    a.window = export_of<editor_window_fn>(a.dll, "editor_window");
+    a.is_editor = export_of<is_editor_window_fn>(a.dll, "is_editor_window");
+    return a.init && a.tidyup && a.update && a.win_messages && a.window && a.is_editor;
+}
+
+HMENU build_menus() {
+    HMENU bar = CreateMenu();
+    HMENU file = CreatePopupMenu();
+    AppendMenuA(file, MF_STRING, command_exit, "E&xit");
+    AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(file), "&File");
+    std::vector<std::pair<std::string, HMENU>> menus;
+    const auto &features = registry();
+    for (size_t i = 0; i < features.size(); ++i) {
+        auto found = std::find_if(menus.begin(), menus.end(),
+                                  [&](const auto &m) { return m.first == features[i].menu; });
+        if (found == menus.end()) {
+            menus.push_back({features[i].menu, CreatePopupMenu()});
+            found = menus.end() - 1;
+        }
+        AppendMenuA(found->second, MF_STRING, first_feature_command + i, features[i].label);
+    }
+    for (const auto &m : menus) AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(m.second), m.first.c_str());
+    return bar;
+}
+
+LRESULT CALLBACK main_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    host_app &a = app();
+    switch (message) {
+    case WM_SIZE:
+        if (a.log_view) MoveWindow(a.log_view, 0, 0, LOWORD(lparam), HIWORD(lparam), TRUE);
+        return 0;
+    case WM_SETCURSOR:
+        // The host hands cursor messages for its view to the editor, which puts
+        // the mode cursor up.
+        if (LOWORD(lparam) == HTCLIENT && a.win_messages) {
+            a.win_messages(0, WM_SETCURSOR);
+            return TRUE;
+        }
+        break;
+    case WM_COMMAND: {
+        int id = LOWORD(wparam);
+        if (id == command_exit) {
+            DestroyWindow(window);
+            return 0;
+        }
+        size_t index = static_cast<size_t>(id - first_feature_command);
+        if (id >= first_feature_command && index < registry().size()) {
+            registry()[index].run();
+            return 0;
+        }
+        break;
+    }
+    case WM_CLOSE:
+        DestroyWindow(window);
+        return 0;
+    case WM_DESTROY:
+        PostQuitMessage(0);
+        return 0;
+    }
+    return DefWindowProcA(window, message, wparam, lparam);
+}
+
+std::string settings_folder() {
+    char folder[MAX_PATH] = "";
+    DWORD n = GetEnvironmentVariableA("APPDATA", folder, sizeof folder);
+    if (n == 0 || n >= sizeof folder) GetTempPathA(sizeof folder, folder);
+    std::string path = folder;
+    if (!path.empty() && path.back() != '\\') path += '\\';
+    path += "EditorHost\\";
+    CreateDirectoryA(path.c_str(), nullptr);
+    return path;
+}
+
+void run_tour() {
+    host_app &a = app();
+    std::vector<host_feature> tours;
+    for (const host_feature &f : registry())
+        if (f.tour) tours.push_back(f);
+    std::stable_sort(tours.begin(), tours.end(), [](const auto &x, const auto &y) { return x.order < y.order; });
+    for (const host_feature &f : tours) {
+        a.log(std::string("tour: ") + f.menu + " / " + f.label);
+        f.tour();
+        MSG msg;
+        while (PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&msg);
+    }
+}
+}  // namespace
+
+host_app &app() {
+    static host_app a;
+    return a;
+}
+
+int register_host_feature(const host_feature &feature) {
+    auto &features = registry();
+    auto at = std::upper_bound(features.begin(), features.end(), feature,
+                               [](const host_feature &x, const host_feature &y) { return x.order < y.order; });
+    features.insert(at, feature);
+    return static_cast<int>(features.size());
+}
+
+const std::vector<host_feature> &host_features() { return registry(); }
+
+void host_app::send_state() {
+    if (update) update(state);
+}
+
+void host_app::log(const std::string &line) {
+    if (!gallery.empty()) std::printf("%s\n", line.c_str());
+    if (!log_view) return;
+    std::string text = line + "\r\n";
+    int end = GetWindowTextLengthA(log_view);
+    SendMessageA(log_view, EM_SETSEL, end, end);
+    SendMessageA(log_view, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void tour_screenshot(HWND window, const std::string &name) {
+    host_app &a = app();
+    if (a.gallery.empty()) return;
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
+    RECT r;
+    GetWindowRect(window, &r);
+    int w = r.right - r.left, h = r.bottom - r.top;
+    if (w <= 0 || h <= 0) return;
+    HDC screen = GetDC(nullptr);
+    HDC mem = CreateCompatibleDC(screen);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = w;
+    info.bmiHeader.biHeight = -h;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void *bits = nullptr;
+    HBITMAP bmp = CreateDIBSection(mem, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    HGDIOBJ old = SelectObject(mem, bmp);
+    BitBlt(mem, 0, 0, w, h, screen, r.left, r.top, SRCCOPY);
+    GdiFlush();
+    std::vector<uint8_t> rgb(static_cast<size_t>(w) * h * 3);
+    const uint8_t *src = static_cast<const uint8_t *>(bits);
+    for (size_t i = 0; i < static_cast<size_t>(w) * h; ++i) {
+        rgb[i * 3] = src[i * 4 + 2];
+        rgb[i * 3 + 1] = src[i * 4 + 1];
+        rgb[i * 3 + 2] = src[i * 4];
+    }
+    SelectObject(mem, old);
+    DeleteObject(bmp);
+    DeleteDC(mem);
+    ReleaseDC(nullptr, screen);
+    std::string path = a.gallery + "\\" + name + ".png";
+    if (write_png(path, w, h, rgb)) a.log("screenshot: " + path);
+}
+
+int tour_modal(const std::string &title, const std::string &name, int (*open)(), int close_id) {
+    ui_driver driver;
+    driver.then(title, [name, close_id](HWND window) {
+        tour_screenshot(window, name);
+        ui_command(window, close_id);
+    });
+    int result = open();
+    if (!driver.ok()) app().log("tour problem: " + driver.failures());
+    return result;
+}
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) {
+    host_app &a = app();
+    const char *tour = std::strstr(command_line, "--tour");
+    if (tour) {
+        tour += 6;
+        while (*tour == ' ') ++tour;
+        a.gallery = *tour ? tour : "gallery";
+        CreateDirectoryA(a.gallery.c_str(), nullptr);
+    }
+
+    WNDCLASSA wc{};
+    wc.lpfnWndProc = main_proc;
+    wc.hInstance = instance;
+    wc.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+    wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+    wc.lpszClassName = "EditorHostMain";
+    RegisterClassA(&wc);
+    a.main_window = CreateWindowA("EditorHostMain", "Editor Host - sample mission", WS_OVERLAPPEDWINDOW,
+                                  CW_USEDEFAULT, CW_USEDEFAULT, 760, 520, nullptr, build_menus(), instance, nullptr);
+    a.log_view = CreateWindowA("EDIT", "", WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL,
+                               0, 0, 0, 0, a.main_window, nullptr, instance, nullptr);
+    ShowWindow(a.main_window, show);
+    UpdateWindow(a.main_window);
+
+    if (!load_editor(a)) {
+        MessageBoxA(a.main_window, "editor.dll could not be loaded, or lacks an export.", "Editor Host", MB_ICONHAND);
+        return 2;
+    }
+    a.settings_folder = settings_folder();
+    a.state.edit_mode = 0;
+    a.state.edit_submode = 1;
+    editor_setup setup{};
+    setup.state = a.state;
+    setup.main_window = a.main_window;
+    setup.settings_file = a.settings_file.c_str();
+    setup.settings_folder = a.settings_folder.c_str();
+    setup.ops = sample_host_ops();
+    a.log("editor_init: " + std::to_string(a.init(setup)) + " (settings in " + a.settings_folder + a.settings_file + ")");
+
+    int exit_code = 0;
+    if (!a.gallery.empty()) {
+        run_tour();
+        DestroyWindow(a.main_window);
+    } else {
+        MSG msg;
+        while (GetMessageA(&msg, nullptr, 0, 0) > 0) {
+            TranslateMessage(&msg);
+            DispatchMessageA(&msg);
+        }
+    }
+    a.log("editor_tidyup: " + std::to_string(a.tidyup()));
+    std::string report = a.memory.report();
+    std::printf("%s", report.c_str());
+    std::fflush(stdout);
+    if (!a.memory.problems().empty()) exit_code = 1;
+    FreeLibrary(a.dll);
+    return exit_code;
+}

@@ -1,0 +1,42 @@
+// The host's in-memory sample mission: what its host operations hand to the
+// editor. Every block the editor sees comes from app().memory.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "editor_api.h"
+
+struct sample_object {
+    uint32_t id;
+    std::string name;   // empty: unnamed
+    std::string group;  // empty: unattached
+    std::string shape;
+};
+
+struct sample_mission {
+    std::vector<sample_object> objects;
+    // Reference objects offered per Create New Objects type (0 to 8).
+    std::array<std::vector<std::string>, 9> reference_names;
+    std::vector<std::string> message_targets;
+    std::vector<std::string> formations;
+    std::vector<std::string> markers;
+
+    const sample_object *find(uint32_t id) const;
+    const sample_object *find(const std::string &name) const;
+};
+
+sample_mission &mission();
+
+// The full host operation table over the sample mission.
+host_ops sample_host_ops();
+
+// Lists in host memory: a head and nodes of 12 bytes, texts copied in.
+dlist_node *host_list_create();
+void host_list_append(dlist_node *head, uintptr_t value);
+void host_list_free(dlist_node *head);
+char *host_text_copy(const std::string &text);
+void host_text_free(char *text);

@@ -1,0 +1,271 @@
+/*
+ * editor_api.h - the boundary between the game (the host) and editor.dll.
+ *
+ * A host loads editor.dll, resolves the six exports below, fills an
+ * editor_setup (its main window, its settings file and the table of host
+ * operations) and calls editor_init.  Every record that crosses the boundary
+ * is laid out here with its exact 32-bit offsets; the static assertions keep
+ * both sides honest.  Usable from C and C++.
+ */
+#ifndef EDITOR_API_H
+#define EDITOR_API_H
+
+#include <stddef.h>
+#include <stdint.h>
+#include <windows.h>
+
+#ifdef __cplusplus
+extern "C" {
+#define EDITOR_STATIC_ASSERT(cond, msg) static_assert(cond, msg)
+#else
+#define EDITOR_STATIC_ASSERT(cond, msg) _Static_assert(cond, msg)
+#endif
+
+#if defined(_MSC_VER) || defined(__MINGW32__)
+#define EDITOR_CDECL __cdecl
+#else
+#define EDITOR_CDECL
+#endif
+
+EDITOR_STATIC_ASSERT(sizeof(void *) == 4, "the editor interface is 32-bit");
+
+/* Checks one field's offset in a shared record. */
+#define EDITOR_CHECK_OFFSET(type, field, offset) \
+    EDITOR_STATIC_ASSERT(offsetof(type, field) == (offset), #type "." #field " offset")
+#define EDITOR_CHECK_SIZE(type, size) \
+    EDITOR_STATIC_ASSERT(sizeof(type) == (size), #type " size")
+
+/* ------------------------------------------------------------------------ */
+/* Circular doubly linked list shared with the host (12-byte nodes).        */
+/* A head's value word holds its own address; nodes come from host_alloc.   */
+/* ------------------------------------------------------------------------ */
+typedef struct dlist_node {
+    struct dlist_node *next;
+    struct dlist_node *prev;
+    uintptr_t value;
+} dlist_node;
+EDITOR_CHECK_SIZE(dlist_node, 12);
+EDITOR_CHECK_OFFSET(dlist_node, next, 0);
+EDITOR_CHECK_OFFSET(dlist_node, prev, 4);
+EDITOR_CHECK_OFFSET(dlist_node, value, 8);
+
+/* ------------------------------------------------------------------------ */
+/* Editor state, passed by value to editor_update (17 words).               */
+/* ------------------------------------------------------------------------ */
+enum info_kind { INFO_OBJECT = 1, INFO_TERRAIN = 2 };
+
+typedef struct editor_state {
+    uint32_t host_word;     /* the host's own; only compared */
+    int32_t edit_mode;      /* 0 to 4 */
+    int32_t edit_submode;   /* 1, 2, 4097 or 4098 */
+    float position[3];      /* metres */
+    float orientation[3];   /* radians */
+    int32_t info_kind;      /* INFO_OBJECT, INFO_TERRAIN, anything else: none */
+    union {
+        struct {
+            uint32_t object_id;
+            uint32_t unused;
+            int32_t named; /* non-zero: name and group come from host_object_name */
+        } object;
+        struct {
+            float location[3];
+            float normal[3];
+        } terrain;
+    } info;
+    const char *shape_name; /* INFO_OBJECT: null shows as "???" */
+} editor_state;
+EDITOR_CHECK_SIZE(editor_state, 68);
+EDITOR_CHECK_OFFSET(editor_state, edit_mode, 4);
+EDITOR_CHECK_OFFSET(editor_state, edit_submode, 8);
+EDITOR_CHECK_OFFSET(editor_state, position, 12);
+EDITOR_CHECK_OFFSET(editor_state, orientation, 24);
+EDITOR_CHECK_OFFSET(editor_state, info_kind, 36);
+EDITOR_CHECK_OFFSET(editor_state, info.object.object_id, 40);
+EDITOR_CHECK_OFFSET(editor_state, info.object.named, 48);
+EDITOR_CHECK_OFFSET(editor_state, info.terrain.location, 40);
+EDITOR_CHECK_OFFSET(editor_state, info.terrain.normal, 52);
+EDITOR_CHECK_OFFSET(editor_state, shape_name, 64);
+
+/* ------------------------------------------------------------------------ */
+/* Host operations (words 20 to 50 of editor_setup). All cdecl, int result. */
+/* Reserved slots are never called and may be null.                         */
+/* ------------------------------------------------------------------------ */
+enum host_notify_code {
+    NOTIFY_MODE = 1,        /* argument: the chosen edit_mode */
+    NOTIFY_POSITION = 4,    /* argument: address of three floats X, Y, Z (metres) */
+    NOTIFY_ORIENTATION = 5  /* argument: address of three floats X, Y, Z (radians) */
+};
+
+/* Acquire (1) or release (0) a list handed over for choosing. */
+enum { HOST_LIST_RELEASE = 0, HOST_LIST_ACQUIRE = 1 };
+
+struct heli_order_record;
+struct waypoint_record;
+struct heli_group_record;
+struct patrol_point;
+
+typedef int(EDITOR_CDECL *host_notify_fn)(int code, uintptr_t argument);
+typedef int(EDITOR_CDECL *host_typed_list_fn)(int object_type, dlist_node **list, int acquire);
+typedef int(EDITOR_CDECL *host_list_fn)(dlist_node **list, int acquire);
+typedef int(EDITOR_CDECL *host_order_create_fn)(uint32_t kind, struct heli_order_record **order);
+typedef int(EDITOR_CDECL *host_order_destroy_fn)(struct heli_order_record **order);
+typedef int(EDITOR_CDECL *host_order_copy_fn)(struct heli_order_record *source,
+                                              struct heli_order_record **copy);
+typedef int(EDITOR_CDECL *host_waypoint_create_fn)(struct waypoint_record **waypoint);
+typedef int(EDITOR_CDECL *host_waypoint_destroy_fn)(struct waypoint_record **waypoint);
+typedef int(EDITOR_CDECL *host_waypoint_copy_fn)(struct waypoint_record *source,
+                                                 struct waypoint_record **copy);
+typedef int(EDITOR_CDECL *host_heli_group_create_fn)(struct heli_group_record **group);
+typedef int(EDITOR_CDECL *host_heli_group_destroy_fn)(struct heli_group_record **group);
+typedef int(EDITOR_CDECL *host_heli_group_copy_fn)(struct heli_group_record *source,
+                                                   struct heli_group_record **copy);
+typedef int(EDITOR_CDECL *host_patrol_point_destroy_fn)(struct patrol_point **point);
+typedef int(EDITOR_CDECL *host_patrol_point_create_fn)(const char *marker_name,
+                                                       struct patrol_point **point);
+typedef int(EDITOR_CDECL *host_object_exists_fn)(const char *name);
+typedef void *(EDITOR_CDECL *host_alloc_fn)(uint32_t size);
+typedef int(EDITOR_CDECL *host_free_fn)(void *block, uint32_t size);
+typedef int(EDITOR_CDECL *host_object_name_fn)(uint32_t object_id, int by_name, char *names64);
+
+typedef struct host_ops {
+    host_notify_fn host_notify;                             /* slot 20 */
+    host_typed_list_fn host_reference_list;                 /* 21 */
+    host_list_fn host_unit_list;                            /* 22 */
+    host_list_fn host_message_target_list;                  /* 23 */
+    host_list_fn host_formation_list;                       /* 24 */
+    host_list_fn host_marker_list;                          /* 25 */
+    host_list_fn host_unit_list_standalone;                 /* 26, released through 22 */
+    host_list_fn host_rally_point_list;                     /* 27 */
+    void *reserved_28;
+    void *reserved_29;
+    host_order_create_fn host_order_create;                 /* 30 */
+    host_order_destroy_fn host_order_destroy;               /* 31 */
+    host_order_copy_fn host_order_copy;                     /* 32 */
+    void *reserved_33;
+    void *reserved_34;
+    host_waypoint_create_fn host_waypoint_create;           /* 35 */
+    host_waypoint_destroy_fn host_waypoint_destroy;         /* 36 */
+    host_waypoint_copy_fn host_waypoint_copy;               /* 37 */
+    void *reserved_38;
+    host_heli_group_create_fn host_heli_group_create;       /* 39 */
+    host_heli_group_destroy_fn host_heli_group_destroy;     /* 40 */
+    host_heli_group_copy_fn host_heli_group_copy;           /* 41 */
+    void *reserved_42;
+    void *reserved_43;
+    void *reserved_44;
+    host_patrol_point_destroy_fn host_patrol_point_destroy; /* 45 */
+    host_patrol_point_create_fn host_patrol_point_create;   /* 46 */
+    host_object_exists_fn host_object_exists;               /* 47 */
+    host_alloc_fn host_alloc;                               /* 48 */
+    host_free_fn host_free;                                 /* 49 */
+    host_object_name_fn host_object_name;                   /* 50 */
+} host_ops;
+EDITOR_CHECK_SIZE(host_ops, 31 * 4);
+
+/* ------------------------------------------------------------------------ */
+/* Setup record, passed by value to editor_init (51 words).                 */
+/* ------------------------------------------------------------------------ */
+typedef struct editor_setup {
+    editor_state state;          /* words 0 to 16: the initial state */
+    HWND main_window;            /* word 17: owns every editor window */
+    const char *settings_file;   /* word 18: null means no settings */
+    const char *settings_folder; /* word 19: put in front of the file name; may be null */
+    host_ops ops;                /* words 20 to 50 */
+} editor_setup;
+EDITOR_CHECK_SIZE(editor_setup, 204);
+EDITOR_CHECK_OFFSET(editor_setup, main_window, 68);
+EDITOR_CHECK_OFFSET(editor_setup, settings_file, 72);
+EDITOR_CHECK_OFFSET(editor_setup, settings_folder, 76);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_notify, 80);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_reference_list, 84);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_unit_list, 88);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_message_target_list, 92);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_formation_list, 96);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_marker_list, 100);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_unit_list_standalone, 104);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_rally_point_list, 108);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_order_create, 120);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_order_destroy, 124);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_order_copy, 128);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_waypoint_create, 140);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_waypoint_destroy, 144);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_waypoint_copy, 148);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_heli_group_create, 156);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_heli_group_destroy, 160);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_heli_group_copy, 164);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_patrol_point_destroy, 180);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_patrol_point_create, 184);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_object_exists, 188);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_alloc, 192);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_free, 196);
+EDITOR_CHECK_OFFSET(editor_setup, ops.host_object_name, 200);
+
+/* ------------------------------------------------------------------------ */
+/* Requests of editor_window.                                               */
+/* ------------------------------------------------------------------------ */
+enum editor_request {
+    REQUEST_MESSAGE_BOX = 0,        /* arg1 text, arg2 message_kind */
+    REQUEST_CONFIRM_QUIT = 1,
+    REQUEST_INVALID_SELECTION = 2,
+    REQUEST_NOTHING_SELECTED = 3,
+    REQUEST_CREATE_OBJECTS = 4,     /* arg1 create_objects_record * */
+    REQUEST_SAVE_WORLD_FILE = 5,    /* arg1 buffer (in: start folder, out: path), arg2 size */
+    REQUEST_SAVE_MISSION_FILE = 6,  /* as 5 */
+    REQUEST_CONFIRM_DELETE = 7,
+    REQUEST_UNMATCHED_GROUP = 8,
+    REQUEST_GROUP_COMPOSITION = 9,  /* arg1 group_record *, arg2 group list or null */
+    REQUEST_OBJECT_NAMES = 10,      /* arg1 dlist of unit_entry * */
+    REQUEST_GROUP_LIST = 11,        /* arg1 group list */
+    REQUEST_BOMBING_RUN = 12,       /* arg1 bombing_run_record * */
+    REQUEST_RALLY_POINT = 13,       /* arg1 rally_point_record * */
+    REQUEST_EDIT_HELI_GROUP = 14,   /* arg1 heli_group_record *, arg2 available units */
+    REQUEST_LIST_HELI_GROUPS = 15   /* arg1 heli group list, arg2 available units */
+};
+
+enum message_kind {
+    MESSAGE_ERROR = 0,
+    MESSAGE_WARNING = 1,
+    MESSAGE_INFORMATION = 2,
+    MESSAGE_QUESTION = 3
+};
+
+/* ======================================================================== */
+/* Records of the dialogs. Each section belongs to one dialog family.       */
+/* ======================================================================== */
+
+/* --- Create New Objects ------------------------------------------------- */
+
+/* --- Ground forces -------------------------------------------------------- */
+
+/* --- Helicopter groups and orders ---------------------------------------- */
+
+/* --- Air support ---------------------------------------------------------- */
+
+/* ======================================================================== */
+/* The exports (ordinals 1 to 6), and their types for GetProcAddress.        */
+/* ======================================================================== */
+#ifdef EDITOR_IMPLEMENTATION
+#define EDITOR_EXPORT
+#else
+#define EDITOR_EXPORT __declspec(dllimport)
+#endif
+
+EDITOR_EXPORT int EDITOR_CDECL editor_init(editor_setup setup);
+EDITOR_EXPORT int EDITOR_CDECL editor_tidyup(void);
+EDITOR_EXPORT int EDITOR_CDECL editor_update(editor_state state);
+EDITOR_EXPORT int EDITOR_CDECL editor_win_messages(uintptr_t unused, uint32_t message);
+EDITOR_EXPORT int EDITOR_CDECL editor_window(int request, uintptr_t arg1, uintptr_t arg2);
+EDITOR_EXPORT int EDITOR_CDECL is_editor_window(HWND window);
+
+typedef int(EDITOR_CDECL *editor_init_fn)(editor_setup setup);
+typedef int(EDITOR_CDECL *editor_tidyup_fn)(void);
+typedef int(EDITOR_CDECL *editor_update_fn)(editor_state state);
+typedef int(EDITOR_CDECL *editor_win_messages_fn)(uintptr_t unused, uint32_t message);
+typedef int(EDITOR_CDECL *editor_window_fn)(int request, uintptr_t arg1, uintptr_t arg2);
+typedef int(EDITOR_CDECL *is_editor_window_fn)(HWND window);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* EDITOR_API_H */

@@ -1,0 +1,184 @@
+#include "tests/support/test_host.h"
+
+#include <cstring>
+
+#include "editor/editor.h"
+
+test_host *current_host = nullptr;
+
+namespace {
+int EDITOR_CDECL op_notify(int code, uintptr_t argument) {
+    notification n{code, argument, {0, 0, 0}};
+    if (code == NOTIFY_POSITION || code == NOTIFY_ORIENTATION) {
+        std::memcpy(n.values, reinterpret_cast<const void *>(argument), sizeof n.values);
+    }
+    current_host->notifications.push_back(n);
+    if (current_host->on_notify) current_host->on_notify(n);
+    return 0;
+}
+
+int acquire_names(const std::vector<std::string> &names, dlist_node **list, int acquire) {
+    test_host &h = *current_host;
+    if (acquire) {
+        if (h.refuse_acquire) return 0;
+        std::vector<uintptr_t> values;
+        for (const std::string &name : names) values.push_back(reinterpret_cast<uintptr_t>(h.host_text(name)));
+        *list = h.build_list(values);
+        ++h.lists_out;
+        return 1;
+    }
+    if (h.refuse_release) return 0;
+    h.free_list(*list);
+    *list = nullptr;
+    --h.lists_out;
+    return 1;
+}
+
+int EDITOR_CDECL op_reference_list(int type, dlist_node **list, int acquire) {
+    static const std::vector<std::string> none;
+    const auto &names = type >= 0 && type < 9 ? current_host->reference_names[type] : none;
+    return acquire_names(names, list, acquire);
+}
+int EDITOR_CDECL op_message_targets(dlist_node **list, int acquire) {
+    return acquire_names(current_host->message_targets, list, acquire);
+}
+int EDITOR_CDECL op_formations(dlist_node **list, int acquire) {
+    return acquire_names(current_host->formations, list, acquire);
+}
+int EDITOR_CDECL op_markers(dlist_node **list, int acquire) {
+    return acquire_names(current_host->markers, list, acquire);
+}
+
+void *EDITOR_CDECL op_alloc(uint32_t size) { return current_host->memory.alloc(size); }
+int EDITOR_CDECL op_free(void *block, uint32_t size) {
+    current_host->memory.free(block, size);
+    return 0;
+}
+
+int EDITOR_CDECL op_object_name(uint32_t id, int by_name, char *names) {
+    test_host &h = *current_host;
+    if (by_name) return h.existing_names.count(names) ? 1 : 0;
+    auto found = h.objects.find(id);
+    std::memset(names, 0, 64);
+    if (found == h.objects.end()) return 0;
+    std::strncpy(names, found->second.first.c_str(), 31);
+    std::strncpy(names + 32, found->second.second.c_str(), 31);
+    return 1;
+}
+
+LRESULT CALLBACK main_window_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    return DefWindowProcA(window, message, wparam, lparam);
+}
+
+HWND test_main_window() {
+    static HWND window = nullptr;
+    if (!window) {
+        WNDCLASSA wc{};
+        wc.lpfnWndProc = main_window_proc;
+        wc.hInstance = GetModuleHandleA(nullptr);
+        wc.lpszClassName = "editor_test_host";
+        wc.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+        RegisterClassA(&wc);
+        window = CreateWindowA("editor_test_host", "Test Host", WS_OVERLAPPEDWINDOW, 50, 50, 400, 300,
+                               nullptr, nullptr, wc.hInstance, nullptr);
+    }
+    return window;
+}
+}  // namespace
+
+dlist_node *test_host::build_list(const std::vector<uintptr_t> &values) {
+    auto *head = static_cast<dlist_node *>(memory.alloc(12));
+    head->next = head->prev = head;
+    head->value = reinterpret_cast<uintptr_t>(head);
+    for (uintptr_t value : values) {
+        auto *node = static_cast<dlist_node *>(memory.alloc(12));
+        node->value = value;
+        node->next = head;
+        node->prev = head->prev;
+        head->prev->next = node;
+        head->prev = node;
+    }
+    return head;
+}
+
+void test_host::free_list(dlist_node *head) {
+    if (!head) return;
+    dlist_node *node = head->next;
+    while (node != head) {
+        dlist_node *next = node->next;
+        memory.free(node, 12);
+        node = next;
+    }
+    memory.free(head, 12);
+}
+
+char *test_host::host_text(const std::string &text) {
+    auto size = static_cast<uint32_t>(text.size() + 1);
+    auto *copy = static_cast<char *>(std::malloc(size));
+    std::memcpy(copy, text.c_str(), size);
+    owned.push_back({copy, size});
+    return copy;
+}
+
+editor_setup test_host::setup() {
+    current_host = this;
+    main_window = test_main_window();
+    editor_setup s{};
+    s.state.edit_mode = 0;
+    s.state.edit_submode = 1;
+    s.main_window = main_window;
+    s.settings_file = settings_file.c_str();
+    s.settings_folder = settings_folder.c_str();
+    s.ops.host_notify = op_notify;
+    s.ops.host_reference_list = op_reference_list;
+    s.ops.host_message_target_list = op_message_targets;
+    s.ops.host_formation_list = op_formations;
+    s.ops.host_marker_list = op_markers;
+    s.ops.host_alloc = op_alloc;
+    s.ops.host_free = op_free;
+    s.ops.host_object_name = op_object_name;
+    return s;
+}
+
+std::string test_host::read_setting(const char *section, const char *key) const {
+    char value[512] = "";
+    GetPrivateProfileStringA(section, key, "<absent>", value, sizeof value, settings_path().c_str());
+    return value;
+}
+
+void test_host::write_setting(const char *section, const char *key, const char *value) const {
+    WritePrivateProfileStringA(section, key, value, settings_path().c_str());
+}
+
+void test_host::clear_settings() const { DeleteFileA(settings_path().c_str()); }
+
+void editor_test::SetUp() {
+    char temp[MAX_PATH];
+    GetTempPathA(sizeof temp, temp);
+    host.settings_folder = std::string(temp) + "editor_tests\\";
+    CreateDirectoryA(host.settings_folder.c_str(), nullptr);
+    host.setup();
+    host.clear_settings();
+    SetWindowPos(host.main_window, nullptr, 50, 50, 400, 300, SWP_NOZORDER);
+}
+
+void editor_test::TearDown() {
+    ui_driver::close_all_dialogs();
+    if (editor_started) editor_tidyup();
+    EXPECT_EQ(host.lists_out, 0) << "host lists acquired and never released";
+    std::vector<std::string> problems = host.memory.problems();
+    std::string all;
+    for (const std::string &p : problems) all += p + "\n";
+    EXPECT_TRUE(problems.empty()) << all;
+    host.memory.reset();
+    for (auto &block : host.owned) std::free(block.first);
+    host.owned.clear();
+    host.clear_settings();
+    current_host = nullptr;
+}
+
+int editor_test::start_editor(const std::function<void(editor_setup &)> &adjust) {
+    editor_setup s = host.setup();
+    if (adjust) adjust(s);
+    return editor_init(s);
+}

@@ -1,0 +1,80 @@
+// The host as the tests see it: a tracking allocator, lists built in host
+// memory, a log of notifications and an editor_setup pointing at it all.
+// Every test fixture checks the allocator at the end: leaks, unknown frees and
+// size mismatches fail the test.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "editor_api.h"
+#include "host/alloc_tracker.h"
+#include "host/ui_driver.h"
+
+struct notification {
+    int code;
+    uintptr_t argument;
+    float values[3];  // the three floats behind the address, for positions and orientations
+};
+
+struct test_host {
+    alloc_tracker memory;
+    HWND main_window = nullptr;
+    std::string settings_folder;  // ends with a backslash
+    std::string settings_file = "editor.ini";
+
+    std::vector<notification> notifications;
+    // Runs inside host_notify after the notification is logged.
+    std::function<void(const notification &)> on_notify;
+
+    // Names offered by the list operations; a refused acquire answers 0.
+    std::array<std::vector<std::string>, 9> reference_names;
+    std::vector<std::string> message_targets;
+    std::vector<std::string> formations;
+    std::vector<std::string> markers;
+    bool refuse_acquire = false;
+    bool refuse_release = false;
+    int lists_out = 0;  // acquired and not yet released
+
+    // host_object_name: by id, the object's name and group; by name, the names that exist.
+    std::map<uint32_t, std::pair<std::string, std::string>> objects;
+    std::set<std::string> existing_names;
+
+    // Builds a list in host memory holding the given values; freed by release_list.
+    dlist_node *build_list(const std::vector<uintptr_t> &values);
+    void free_list(dlist_node *head);
+    // Copies a text into host memory (freed with free_text).
+    char *host_text(const std::string &text);
+
+    editor_setup setup();
+    std::string settings_path() const { return settings_folder + settings_file; }
+    std::string read_setting(const char *section, const char *key) const;
+    void write_setting(const char *section, const char *key, const char *value) const;
+    void clear_settings() const;
+
+    // Host-side blocks to free when the host goes away (texts of lists and so on).
+    std::vector<std::pair<void *, uint32_t>> owned;
+};
+
+// The host that the static host operations talk to.
+extern test_host *current_host;
+
+// A test with a fresh host; tidies the editor up and checks the allocator at the end.
+class editor_test : public ::testing::Test {
+protected:
+    test_host host;
+    void SetUp() override;
+    void TearDown() override;
+    // editor_init with the host's setup (optionally adjusted first).
+    int start_editor(const std::function<void(editor_setup &)> &adjust = nullptr);
+};
+
+// Fails the current test with the driver's failures, if any.
+#define EXPECT_DRIVER_OK(driver) EXPECT_TRUE((driver).ok()) << (driver).failures()

@@ -1,0 +1,37 @@
+# One test program per folder under tests/ (besides support/): a Wine start
+# costs seconds, so cases are grouped per subsystem rather than run one per
+# process. Each program links the editor's code and resources directly, plus
+# the test host and the UI driver.
+set(GTEST_SOURCE_DIR /usr/src/googletest CACHE PATH "GoogleTest sources")
+set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
+set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+add_subdirectory(${GTEST_SOURCE_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+
+add_library(test_support STATIC tests/support/test_host.cpp tests/support/test_main.cpp)
+target_include_directories(test_support PUBLIC ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR})
+target_compile_definitions(test_support PUBLIC EDITOR_IMPLEMENTATION WIN32_LEAN_AND_MEAN)
+target_link_libraries(test_support PUBLIC host_support gtest)
+
+file(GLOB TEST_GROUPS LIST_DIRECTORIES true CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*)
+foreach(group_dir ${TEST_GROUPS})
+    get_filename_component(group ${group_dir} NAME)
+    if(NOT IS_DIRECTORY ${group_dir} OR group STREQUAL "support")
+        continue()
+    endif()
+    file(GLOB group_sources CONFIGURE_DEPENDS ${group_dir}/*.cpp)
+    if(NOT group_sources)
+        continue()
+    endif()
+    add_executable(${group}_tests ${group_sources}
+        $<TARGET_OBJECTS:editor_core> $<TARGET_OBJECTS:editor_resources>)
+    target_link_libraries(${group}_tests PRIVATE test_support user32 gdi32 comdlg32)
+    target_link_options(${group}_tests PRIVATE ${STATIC_RUNTIME})
+    add_dependencies(${group}_tests editor)
+    add_test(NAME ${group} COMMAND ${group}_tests WORKING_DIRECTORY ${CMAKE_BINARY_DIR})
+    set_tests_properties(${group} PROPERTIES TIMEOUT 900)
+endforeach()
+
+# editor.dll may import system DLLs only: no MinGW runtime DLL.
+add_test(NAME dll_imports COMMAND ${CMAKE_COMMAND}
+    -DDLL=${CMAKE_BINARY_DIR}/editor.dll -DOBJDUMP=i686-w64-mingw32-objdump
+    -P ${CMAKE_SOURCE_DIR}/tests/check_imports.cmake)

@@ -1,0 +1,9 @@
+// The floating toolbar: five picture buttons, one per edit mode.
+#pragma once
+
+#include <windows.h>
+
+int toolbar_start(HWND owner, const char *settings_file, const char *settings_folder);
+int toolbar_tidyup(const char *settings_file, const char *settings_folder);
+int toolbar_sync_mode(int mode);
+int is_toolbar_window(HWND window);
