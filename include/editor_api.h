@@ -237,6 +237,17 @@ enum message_kind {
 
 /* --- Ground forces -------------------------------------------------------- */
 
+/* A unit as the host lists it, and as a group's member list holds it. */
+typedef struct unit_entry {
+    char name[32];
+    char type_name[32]; /* object type name */
+    int32_t id;         /* the key by which entries are matched */
+} unit_entry;
+EDITOR_CHECK_SIZE(unit_entry, 68);
+EDITOR_CHECK_OFFSET(unit_entry, name, 0);
+EDITOR_CHECK_OFFSET(unit_entry, type_name, 32);
+EDITOR_CHECK_OFFSET(unit_entry, id, 64);
+
 /* --- Helicopter groups and orders ---------------------------------------- */
 
 /* --- Air support ---------------------------------------------------------- */
