@@ -8,3 +8,6 @@ module_flag module;
 
 int object_names_start() { return module.start(); }
 int object_names_tidyup() { return module.tidyup(); }
+
+int edit_name(HWND, char *) { return 0; }
+int list_object_names(dlist_node *) { return 0; }

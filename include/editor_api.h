@@ -248,6 +248,71 @@ EDITOR_CHECK_OFFSET(unit_entry, name, 0);
 EDITOR_CHECK_OFFSET(unit_entry, type_name, 32);
 EDITOR_CHECK_OFFSET(unit_entry, id, 64);
 
+/* Sarge order types; the numbers are the record's. Type 1 does not exist. */
+enum sarge_order_type {
+    SARGE_ORDER_HALT = 0,
+    SARGE_ORDER_DEFEND = 2,
+    SARGE_ORDER_BARRAGE = 3,
+    SARGE_ORDER_MOBILE_DEFENCE = 4,
+    SARGE_ORDER_ADVANCE = 5,
+    SARGE_ORDER_MARCH = 6
+};
+
+/* One order of a ground group (a slot of group_record.orders). */
+typedef struct sarge_order_record {
+    int32_t type;              /* sarge_order_type */
+    char name[32];
+    float duration;            /* seconds: Halt and Barrage, else 0 */
+    char destination[32];      /* waypoint marker name: Barrage, Advance, March */
+    char formation[32];        /* Advance and March */
+    float formation_rotation;  /* degrees: Advance and March */
+    char message[32];          /* message on completion */
+    char message_target[32];   /* where the message goes; empty when none */
+} sarge_order_record;
+EDITOR_CHECK_SIZE(sarge_order_record, 172);
+EDITOR_CHECK_OFFSET(sarge_order_record, type, 0);
+EDITOR_CHECK_OFFSET(sarge_order_record, name, 4);
+EDITOR_CHECK_OFFSET(sarge_order_record, duration, 36);
+EDITOR_CHECK_OFFSET(sarge_order_record, destination, 40);
+EDITOR_CHECK_OFFSET(sarge_order_record, formation, 72);
+EDITOR_CHECK_OFFSET(sarge_order_record, formation_rotation, 104);
+EDITOR_CHECK_OFFSET(sarge_order_record, message, 108);
+EDITOR_CHECK_OFFSET(sarge_order_record, message_target, 140);
+
+/* What fires a contingency order; 0 in a fresh record. */
+enum trigger_type {
+    TRIGGER_ENEMY_CLOSE = 1,
+    TRIGGER_UNDER_FIRE = 2,
+    TRIGGER_DAMAGE = 3,
+    TRIGGER_MESSAGE = 4,
+    TRIGGER_CONTINUE = 5
+};
+
+/* A sarge order carried out when its trigger fires (group_record.contingencies). */
+typedef struct contingency_order_record {
+    int32_t trigger;           /* trigger_type */
+    sarge_order_record order;
+    char next_order[16];       /* at most 15 characters */
+    int32_t survivors;         /* Damage */
+    float distance;            /* Enemy Close: metres */
+    char trigger_string[32];   /* Message and Continue */
+} contingency_order_record;
+EDITOR_CHECK_SIZE(contingency_order_record, 232);
+EDITOR_CHECK_OFFSET(contingency_order_record, trigger, 0);
+EDITOR_CHECK_OFFSET(contingency_order_record, order, 4);
+EDITOR_CHECK_OFFSET(contingency_order_record, order.type, 4);
+EDITOR_CHECK_OFFSET(contingency_order_record, order.name, 8);
+EDITOR_CHECK_OFFSET(contingency_order_record, order.duration, 40);
+EDITOR_CHECK_OFFSET(contingency_order_record, order.destination, 44);
+EDITOR_CHECK_OFFSET(contingency_order_record, order.formation, 76);
+EDITOR_CHECK_OFFSET(contingency_order_record, order.formation_rotation, 108);
+EDITOR_CHECK_OFFSET(contingency_order_record, order.message, 112);
+EDITOR_CHECK_OFFSET(contingency_order_record, order.message_target, 144);
+EDITOR_CHECK_OFFSET(contingency_order_record, next_order, 176);
+EDITOR_CHECK_OFFSET(contingency_order_record, survivors, 192);
+EDITOR_CHECK_OFFSET(contingency_order_record, distance, 196);
+EDITOR_CHECK_OFFSET(contingency_order_record, trigger_string, 200);
+
 /* --- Helicopter groups and orders ---------------------------------------- */
 
 /* --- Air support ---------------------------------------------------------- */
