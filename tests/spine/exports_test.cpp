@@ -1,0 +1,107 @@
+// The six exports of the built editor.dll, loaded as a host loads it.
+#include <string>
+
+#include "tests/support/test_host.h"
+
+namespace {
+template <class F>
+F export_of(HMODULE dll, const char *name) {
+    return reinterpret_cast<F>(reinterpret_cast<void *>(GetProcAddress(dll, name)));
+}
+
+class dll_test : public editor_test {
+protected:
+    HMODULE dll = nullptr;
+    editor_init_fn init = nullptr;
+    editor_tidyup_fn tidyup = nullptr;
+    editor_update_fn update = nullptr;
+    editor_win_messages_fn win_messages = nullptr;
+    editor_window_fn window = nullptr;
+    is_editor_window_fn is_editor = nullptr;
+
+    void SetUp() override {
+        editor_test::SetUp();
+        dll = LoadLibraryA("editor.dll");
+        ASSERT_NE(dll, nullptr) << "editor.dll must be beside the test program";
+        init = export_of<editor_init_fn>(dll, "editor_init");
+        tidyup = export_of<editor_tidyup_fn>(dll, "editor_tidyup");
+        update = export_of<editor_update_fn>(dll, "editor_update");
+        win_messages = export_of<editor_win_messages_fn>(dll, "editor_win_messages");
+        window = export_of<editor_window_fn>(dll, "editor_window");
+        is_editor = export_of<is_editor_window_fn>(dll, "is_editor_window");
+        ASSERT_TRUE(init && tidyup && update && win_messages && window && is_editor);
+    }
+    void TearDown() override {
+        if (tidyup) tidyup();
+        if (dll) FreeLibrary(dll);
+        editor_test::TearDown();
+    }
+    // Every export but editor_init answers 0 and shows nothing.
+    void expect_all_inert() {
+        ui_driver driver(1000);
+        editor_state state{};
+        state.edit_mode = 3;
+        EXPECT_EQ(update(state), 0);
+        EXPECT_EQ(window(REQUEST_CONFIRM_QUIT, 0, 0), 0);
+        EXPECT_EQ(window(REQUEST_MESSAGE_BOX, reinterpret_cast<uintptr_t>("x"), MESSAGE_ERROR), 0);
+        EXPECT_EQ(win_messages(0, WM_SETCURSOR), 0);
+        EXPECT_EQ(is_editor(host.main_window), 0);
+        EXPECT_EQ(tidyup(), 0);
+        EXPECT_DRIVER_OK(driver);
+        EXPECT_TRUE(host.notifications.empty());
+    }
+};
+}  // namespace
+
+TEST_F(dll_test, exports_six_names_at_ordinals_one_to_six) {
+    const char *names[] = {"editor_init", "editor_win_messages", "editor_update", "editor_tidyup",
+                           "editor_window", "is_editor_window"};
+    const int ordinals[] = {1, 4, 3, 2, 5, 6};
+    for (int i = 0; i < 6; ++i) {
+        FARPROC by_ordinal = GetProcAddress(dll, MAKEINTRESOURCEA(ordinals[i]));
+        EXPECT_EQ(reinterpret_cast<void *>(by_ordinal), reinterpret_cast<void *>(GetProcAddress(dll, names[i])))
+            << names[i];
+    }
+    EXPECT_EQ(GetProcAddress(dll, MAKEINTRESOURCEA(7)), nullptr);
+}
+
+TEST_F(dll_test, lifecycle_before_during_and_after) {
+    expect_all_inert();
+    editor_setup setup = host.setup();
+    ASSERT_EQ(init(setup), 1);
+
+    // A second init is refused and changes nothing: not even the main window.
+    host.write_setting("Main", "Position", "10,20");
+    EXPECT_EQ(init(setup), 0);
+    RECT r;
+    GetWindowRect(host.main_window, &r);
+    EXPECT_EQ(r.left, 50);
+
+    EXPECT_EQ(win_messages(0, WM_MOUSEMOVE), 0);
+    EXPECT_EQ(win_messages(0, WM_SETCURSOR), 0);
+    EXPECT_EQ(window(16, 0, 0), 0);
+    EXPECT_EQ(window(-1, 0, 0), 0);
+    EXPECT_EQ(tidyup(), 1);
+    expect_all_inert();
+
+    // And it starts again after a tidy-up.
+    EXPECT_EQ(init(setup), 1);
+    EXPECT_EQ(tidyup(), 1);
+}
+
+TEST_F(dll_test, update_acts_only_on_a_changed_record) {
+    editor_setup setup = host.setup();
+    setup.state.position[0] = 1.5f;
+    ASSERT_EQ(init(setup), 1);
+    host.notifications.clear();
+    editor_state state = setup.state;
+    EXPECT_EQ(update(state), 0);
+    state.host_word = 99;  // only the host's word: a refresh, no mode sync
+    EXPECT_NE(update(state), 0);
+    EXPECT_EQ(update(state), 0);
+    state.position[0] = -0.0f;  // compared by bits: -0.0 differs from the stored 1.5 and from 0.0
+    EXPECT_NE(update(state), 0);
+    state.position[0] = 0.0f;
+    EXPECT_NE(update(state), 0);
+    EXPECT_TRUE(host.notifications.empty());
+}
