@@ -2,6 +2,11 @@
 
 #include "editor_api.h"
 #include "util/dialogs.h"
+#include "ground/group_composition.h"
+#include "ground/group_list.h"
+#include "ground/object_names.h"
+#include "placement/create_objects.h"
+#include "windows/save_file.h"
 
 namespace {
 using request_handler = int (*)(uintptr_t arg1, uintptr_t arg2);
@@ -11,8 +16,17 @@ int fixed_message(uintptr_t, uintptr_t) {
     return show_message_id(Id, Kind);
 }
 
+template <int Mission>
+int save_file(uintptr_t buffer, uintptr_t size) {
+    return save_file_dialog(reinterpret_cast<char *>(buffer), static_cast<uint32_t>(size), Mission);
+}
+
 int message_box(uintptr_t text, uintptr_t kind) {
     return show_message(reinterpret_cast<const char *>(text), static_cast<int>(kind));
+}
+
+int create_objects(uintptr_t record, uintptr_t) {
+    return create_objects_dialog(reinterpret_cast<create_objects_record *>(record));
 }
 
 // Indexed by request code. A null entry is a dialog not built yet: it answers 0.
@@ -21,14 +35,14 @@ const request_handler handlers[] = {
     fixed_message<6, MESSAGE_QUESTION>,          // REQUEST_CONFIRM_QUIT
     fixed_message<7, MESSAGE_ERROR>,             // REQUEST_INVALID_SELECTION
     fixed_message<8, MESSAGE_ERROR>,             // REQUEST_NOTHING_SELECTED
-    nullptr,                                     // REQUEST_CREATE_OBJECTS
-    nullptr,                                     // REQUEST_SAVE_WORLD_FILE
-    nullptr,                                     // REQUEST_SAVE_MISSION_FILE
+    create_objects,                              // REQUEST_CREATE_OBJECTS
+    save_file<0>,                                // REQUEST_SAVE_WORLD_FILE
+    save_file<1>,                                // REQUEST_SAVE_MISSION_FILE
     fixed_message<20, MESSAGE_QUESTION>,         // REQUEST_CONFIRM_DELETE
     fixed_message<25, MESSAGE_ERROR>,            // REQUEST_UNMATCHED_GROUP
-    nullptr,                                     // REQUEST_GROUP_COMPOSITION
-    nullptr,                                     // REQUEST_OBJECT_NAMES
-    nullptr,                                     // REQUEST_GROUP_LIST
+    [](uintptr_t group, uintptr_t groups) { return edit_group(reinterpret_cast<group_record *>(group), reinterpret_cast<dlist_node *>(groups)); },  // REQUEST_GROUP_COMPOSITION
+    [](uintptr_t list, uintptr_t) { return list_object_names(reinterpret_cast<dlist_node *>(list)); },  // REQUEST_OBJECT_NAMES
+    [](uintptr_t groups, uintptr_t) { return list_groups(reinterpret_cast<dlist_node *>(groups)); },  // REQUEST_GROUP_LIST
     nullptr,                                     // REQUEST_BOMBING_RUN
     nullptr,                                     // REQUEST_RALLY_POINT
     nullptr,                                     // REQUEST_EDIT_HELI_GROUP

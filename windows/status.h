@@ -5,5 +5,7 @@
 
 int status_start(HWND owner, const char *settings_file, const char *settings_folder);
 int status_tidyup(const char *settings_file, const char *settings_folder);
-int status_refresh();
+// Shows the stored editor_state: position, orientation and the info line.
+void status_refresh();
 int is_status_window(HWND window);
+INT_PTR CALLBACK status_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);

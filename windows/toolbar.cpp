@@ -1,12 +1,113 @@
 #include "windows/toolbar.h"
 
-#include "util/module_flag.h"
+#include "editor/editor.h"
+#include "util/dialogs.h"
+#include "util/settings.h"
+#include "windows/cursor.h"
 
 namespace {
-module_flag module;
+constexpr int toolbar_template = 103;
+
+struct mode_button {
+    int id;
+    int icon;
+};
+
+// Indexed by edit mode. The fourth button from the top is mode 4 and the
+// fifth is mode 3: the template's order, not the modes', sets the places.
+const mode_button mode_buttons[] = {
+    {1005, 105}, {1006, 106}, {1009, 109}, {1008, 107}, {1007, 108},
+};
+constexpr unsigned mode_count = sizeof mode_buttons / sizeof mode_buttons[0];
+
+int started = 0;
+HWND toolbar = nullptr;
+// Only toolbar_sync_mode changes it: a designer's click leaves it alone, so
+// the host reporting that mode back presses (and notifies) once more.
+int last_pressed_mode = -1;
+
+int mode_of_button(int id) {
+    for (unsigned mode = 0; mode < mode_count; ++mode)
+        if (mode_buttons[mode].id == id) return static_cast<int>(mode);
+    return -1;
+}
+
+void set_button_icons(HWND window) {
+    for (const mode_button &b : mode_buttons) {
+        HWND button = GetDlgItem(window, b.id);
+        if (!button) continue;
+        HICON icon = LoadIconA(editor_instance(), MAKEINTRESOURCEA(b.icon));
+        if (icon) SendMessageA(button, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
+    }
+}
 }  // namespace
 
-int toolbar_start(HWND, const char *, const char *) { return module.start(); }
-int toolbar_tidyup(const char *, const char *) { return module.tidyup(); }
-int toolbar_sync_mode(int) { return 0; }
-int is_toolbar_window(HWND) { return 0; }
+void take_activation_for_cursor(HWND window) {
+    HWND active = GetActiveWindow();
+    if (!active || active == window) return;
+    if (active == editor_main_window() || is_editor_window(active)) {
+        SetActiveWindow(window);
+        cursor_refresh();
+    }
+}
+
+INT_PTR CALLBACK toolbar_proc(HWND window, UINT message, WPARAM wparam, LPARAM) {
+    switch (message) {
+    case WM_INITDIALOG:
+        set_button_icons(window);
+        return 1;
+    case WM_COMMAND:
+        if (started && HIWORD(wparam) == BN_CLICKED) {
+            int mode = mode_of_button(LOWORD(wparam));
+            if (mode >= 0) host_notify(NOTIFY_MODE, static_cast<uintptr_t>(mode));
+        }
+        return 0;
+    case WM_SETCURSOR:
+        take_activation_for_cursor(window);
+        return 0;
+    default:
+        return 0;
+    }
+}
+
+int toolbar_start(HWND owner, const char *settings_file, const char *settings_folder) {
+    if (started) return 0;
+    HWND window = CreateDialogParamA(editor_instance(), MAKEINTRESOURCEA(toolbar_template), owner,
+                                     toolbar_proc, 0);
+    if (!window) {
+        show_message_id(1, MESSAGE_ERROR);
+        return 0;
+    }
+    toolbar = window;
+    settings_restore_position(settings_file, settings_folder, SETTINGS_TOOLBAR, window);
+    ShowWindow(window, SW_SHOWNORMAL);
+    started = 1;
+    return 1;
+}
+
+int toolbar_tidyup(const char *settings_file, const char *settings_folder) {
+    if (!started) return 0;
+    settings_save_position(settings_file, settings_folder, SETTINGS_TOOLBAR, toolbar);
+    DestroyWindow(toolbar);
+    toolbar = nullptr;
+    started = 0;
+    // A new toolbar starts with no button down, so forget the last pressed
+    // mode: the next editor_init presses its initial mode and tells the host,
+    // even when that mode equals the one pressed before the tidy-up.
+    last_pressed_mode = -1;
+    return 1;
+}
+
+int toolbar_sync_mode(int mode) {
+    if (!started || mode == last_pressed_mode) return 0;
+    if (static_cast<unsigned>(mode) >= mode_count) return 0;
+    HWND button = GetDlgItem(toolbar, mode_buttons[mode].id);
+    if (!button) return 0;
+    // Sent, not posted: the platform presses the button, releases the others
+    // and delivers BN_CLICKED (so host_notify) before this returns.
+    SendMessageA(button, BM_CLICK, 0, 0);
+    last_pressed_mode = mode;
+    return 1;
+}
+
+int is_toolbar_window(HWND window) { return started && window == toolbar ? 1 : 0; }
