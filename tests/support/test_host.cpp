@@ -19,15 +19,16 @@ int EDITOR_CDECL op_notify(int code, uintptr_t argument) {
 
 int acquire_names(const std::vector<std::string> &names, dlist_node **list, int acquire) {
     test_host &h = *current_host;
+    const bool refusing = !h.refuse_only || h.refuse_only == &names;
     if (acquire) {
-        if (h.refuse_acquire) return 0;
+        if (h.refuse_acquire && refusing) return 0;
         std::vector<uintptr_t> values;
         for (const std::string &name : names) values.push_back(reinterpret_cast<uintptr_t>(h.host_text(name)));
         *list = h.build_list(values);
         ++h.lists_out;
         return 1;
     }
-    if (h.refuse_release) return 0;
+    if (h.refuse_release && refusing) return 0;
     h.free_list(*list);
     *list = nullptr;
     --h.lists_out;

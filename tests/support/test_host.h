@@ -42,6 +42,8 @@ struct test_host {
     bool refuse_acquire = false;
     bool refuse_release = false;
     int lists_out = 0;  // acquired and not yet released
+    // When set, refuse_acquire and refuse_release apply to this list of names only.
+    const std::vector<std::string> *refuse_only = nullptr;
 
     // host_object_name: by id, the object's name and group; by name, the names that exist.
     std::map<uint32_t, std::pair<std::string, std::string>> objects;
