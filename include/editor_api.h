@@ -313,6 +313,45 @@ EDITOR_CHECK_OFFSET(contingency_order_record, survivors, 192);
 EDITOR_CHECK_OFFSET(contingency_order_record, distance, 196);
 EDITOR_CHECK_OFFSET(contingency_order_record, trigger_string, 200);
 
+/* group_record.status values set by the Group List dialog; others are the host's. */
+enum group_status { GROUP_STATUS_ADDED = 1, GROUP_STATUS_REMOVED = 2 };
+
+/* group_record.appearance: bits 0..7 the percent, then the By Group / By Unit choice. */
+enum {
+    APPEAR_PERCENT_MASK = 0xFF,
+    APPEAR_BY_GROUP = 0x100,
+    APPEAR_BY_UNIT = 0x200
+};
+
+enum { GROUP_MAX_ORDERS = 25, GROUP_MAX_CONTINGENCIES = 15, UNIT_TYPE_COUNT = 43 };
+
+/* A ground group (sarge). The group list is a dlist of group_record pointers. */
+typedef struct group_record {
+    uint32_t host_word;        /* the host's; zero in a group the editor creates */
+    char name[32];
+    sarge_order_record orders[GROUP_MAX_ORDERS];
+    int32_t order_count;       /* 0..25 */
+    int32_t status;            /* GROUP_STATUS_*, or the host's own value */
+    uint32_t appearance;       /* APPEAR_* bits */
+    dlist_node *members;       /* dlist of unit_entry *; null counts as empty */
+    contingency_order_record contingencies[GROUP_MAX_CONTINGENCIES];
+    int32_t contingency_count; /* 0..15 */
+    int32_t target_player_only;
+    int32_t group_type;        /* index into unit_type_names, -1 for none */
+} group_record;
+EDITOR_CHECK_SIZE(group_record, 7844);
+EDITOR_CHECK_OFFSET(group_record, host_word, 0);
+EDITOR_CHECK_OFFSET(group_record, name, 4);
+EDITOR_CHECK_OFFSET(group_record, orders, 36);
+EDITOR_CHECK_OFFSET(group_record, order_count, 4336);
+EDITOR_CHECK_OFFSET(group_record, status, 4340);
+EDITOR_CHECK_OFFSET(group_record, appearance, 4344);
+EDITOR_CHECK_OFFSET(group_record, members, 4348);
+EDITOR_CHECK_OFFSET(group_record, contingencies, 4352);
+EDITOR_CHECK_OFFSET(group_record, contingency_count, 7832);
+EDITOR_CHECK_OFFSET(group_record, target_player_only, 7836);
+EDITOR_CHECK_OFFSET(group_record, group_type, 7840);
+
 /* --- Helicopter groups and orders ---------------------------------------- */
 
 /* --- Air support ---------------------------------------------------------- */

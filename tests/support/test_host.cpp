@@ -50,6 +50,40 @@ int EDITOR_CDECL op_markers(dlist_node **list, int acquire) {
     return acquire_names(current_host->markers, list, acquire);
 }
 
+int units_out(const std::vector<unit_entry> &units, dlist_node **list) {
+    test_host &h = *current_host;
+    if (h.refuse_unit_acquire) return 0;
+    std::vector<uintptr_t> values;
+    for (const unit_entry &u : units) {
+        auto *copy = static_cast<unit_entry *>(h.memory.alloc(sizeof(unit_entry)));
+        *copy = u;
+        values.push_back(reinterpret_cast<uintptr_t>(copy));
+    }
+    *list = h.build_list(values);
+    ++h.lists_out;
+    return 1;
+}
+
+int EDITOR_CDECL op_unit_list(dlist_node **list, int acquire) {
+    test_host &h = *current_host;
+    if (acquire) {
+        ++h.unit_acquires;
+        return units_out(h.units, list);
+    }
+    for (dlist_node *node = (*list)->next; node != *list; node = node->next)
+        h.memory.free(reinterpret_cast<void *>(node->value), sizeof(unit_entry));
+    h.free_list(*list);
+    *list = nullptr;
+    --h.lists_out;
+    return h.refuse_unit_release ? 0 : 1;
+}
+
+int EDITOR_CDECL op_unit_list_standalone(dlist_node **list, int acquire) {
+    if (!acquire) return 0;  // released through slot 22
+    ++current_host->standalone_acquires;
+    return units_out(current_host->standalone_units, list);
+}
+
 void *EDITOR_CDECL op_alloc(uint32_t size) { return current_host->memory.alloc(size); }
 int EDITOR_CDECL op_free(void *block, uint32_t size) {
     current_host->memory.free(block, size);
@@ -121,6 +155,50 @@ char *test_host::host_text(const std::string &text) {
     return copy;
 }
 
+unit_entry test_host::unit(int32_t id, const std::string &name, const std::string &type_name) {
+    unit_entry u{};
+    std::strncpy(u.name, name.c_str(), sizeof u.name - 1);
+    std::strncpy(u.type_name, type_name.c_str(), sizeof u.type_name - 1);
+    u.id = id;
+    return u;
+}
+
+group_record *test_host::make_group(const std::string &name, const std::vector<unit_entry> &members, int32_t status) {
+    auto *group = static_cast<group_record *>(memory.alloc(sizeof(group_record)));
+    std::memset(group, 0, sizeof *group);
+    std::strncpy(group->name, name.c_str(), sizeof group->name - 1);
+    group->status = status;
+    std::vector<uintptr_t> values;
+    for (const unit_entry &u : members) {
+        auto *copy = static_cast<unit_entry *>(memory.alloc(sizeof(unit_entry)));
+        *copy = u;
+        values.push_back(reinterpret_cast<uintptr_t>(copy));
+    }
+    group->members = build_list(values);
+    return group;
+}
+
+void test_host::free_group(group_record *group) {
+    if (dlist_node *members = group->members) {
+        for (dlist_node *node = members->next; node != members; node = node->next)
+            memory.free(reinterpret_cast<void *>(node->value), sizeof(unit_entry));
+        free_list(members);
+    }
+    memory.free(group, sizeof(group_record));
+}
+
+dlist_node *test_host::make_group_list(const std::vector<group_record *> &groups) {
+    std::vector<uintptr_t> values;
+    for (group_record *g : groups) values.push_back(reinterpret_cast<uintptr_t>(g));
+    return build_list(values);
+}
+
+void test_host::free_group_list(dlist_node *groups) {
+    for (dlist_node *node = groups->next; node != groups; node = node->next)
+        free_group(reinterpret_cast<group_record *>(node->value));
+    free_list(groups);
+}
+
 editor_setup test_host::setup() {
     current_host = this;
     main_window = test_main_window();
@@ -135,6 +213,8 @@ editor_setup test_host::setup() {
     s.ops.host_message_target_list = op_message_targets;
     s.ops.host_formation_list = op_formations;
     s.ops.host_marker_list = op_markers;
+    s.ops.host_unit_list = op_unit_list;
+    s.ops.host_unit_list_standalone = op_unit_list_standalone;
     s.ops.host_alloc = op_alloc;
     s.ops.host_free = op_free;
     s.ops.host_object_name = op_object_name;

@@ -42,6 +42,22 @@ struct test_host {
     bool refuse_acquire = false;
     bool refuse_release = false;
     int lists_out = 0;  // acquired and not yet released
+
+    // Units handed out by host_unit_list (slot 22) and host_unit_list_standalone
+    // (slot 26): every acquire builds fresh 68-byte copies, and a release
+    // through slot 22 frees them. A refused release still frees the list.
+    std::vector<unit_entry> units;
+    std::vector<unit_entry> standalone_units;
+    bool refuse_unit_acquire = false;
+    bool refuse_unit_release = false;
+    int unit_acquires = 0;        // slot 22, acquire 1
+    int standalone_acquires = 0;  // slot 26
+    static unit_entry unit(int32_t id, const std::string &name, const std::string &type_name);
+    // A ground group in host memory (7844 bytes; members 68 bytes each).
+    group_record *make_group(const std::string &name, const std::vector<unit_entry> &members, int32_t status = 0);
+    void free_group(group_record *group);  // its member list too
+    dlist_node *make_group_list(const std::vector<group_record *> &groups);
+    void free_group_list(dlist_node *groups);  // and every group in it
     // When set, refuse_acquire and refuse_release apply to this list of names only.
     const std::vector<std::string> *refuse_only = nullptr;
 

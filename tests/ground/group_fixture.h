@@ -1,0 +1,91 @@
+// Shared set-up of the ground group tests: a started editor, host units and
+// groups in host memory (freed at the end of each test).
+#pragma once
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "editor/editor.h"
+#include "tests/support/test_host.h"
+
+class group_test : public editor_test {
+protected:
+    dlist_node *groups = nullptr;  // freed with every group in it, those the editor added included
+    std::vector<group_record *> loose;  // groups outside the list
+
+    void SetUp() override {
+        editor_test::SetUp();
+        ASSERT_EQ(start_editor(), 1);
+        host.units = {test_host::unit(1, "Tank1", "tank_t80"), test_host::unit(2, "Tank2", "tank_t80"),
+                      test_host::unit(3, "Grunt7", "infantry"), test_host::unit(4, "Jeep3", "jeep"),
+                      test_host::unit(5, "Mortar2", "mortar")};
+    }
+    void TearDown() override {
+        ui_driver::close_all_dialogs();
+        if (groups) host.free_group_list(groups);
+        for (group_record *g : loose) host.free_group(g);
+        editor_test::TearDown();
+    }
+
+    group_record *add_group(const std::string &name, const std::vector<int> &member_ids, int32_t status = 0) {
+        std::vector<unit_entry> members;
+        for (int id : member_ids)
+            for (const unit_entry &u : host.units)
+                if (u.id == id) members.push_back(u);
+        group_record *g = host.make_group(name, members, status);
+        if (!groups) groups = host.make_group_list({});
+        dlist_node *node = static_cast<dlist_node *>(host.memory.alloc(12));
+        node->value = reinterpret_cast<uintptr_t>(g);
+        node->next = groups;
+        node->prev = groups->prev;
+        groups->prev->next = node;
+        groups->prev = node;
+        return g;
+    }
+    group_record *loose_group(const std::string &name, const std::vector<unit_entry> &members) {
+        loose.push_back(host.make_group(name, members));
+        return loose.back();
+    }
+
+    uintptr_t groups_arg() const { return reinterpret_cast<uintptr_t>(groups); }
+
+    static std::vector<int32_t> member_ids(const group_record *g) {
+        std::vector<int32_t> ids;
+        if (!g->members) return ids;
+        for (dlist_node *n = g->members->next; n != g->members; n = n->next)
+            ids.push_back(reinterpret_cast<unit_entry *>(n->value)->id);
+        return ids;
+    }
+    static std::vector<std::string> group_names(dlist_node *list) {
+        std::vector<std::string> names;
+        for (dlist_node *n = list->next; n != list; n = n->next)
+            names.push_back(reinterpret_cast<group_record *>(n->value)->name);
+        return names;
+    }
+    static sarge_order_record order(int32_t type, const char *name) {
+        sarge_order_record o{};
+        o.type = type;
+        std::strncpy(o.name, name, sizeof o.name - 1);
+        return o;
+    }
+    static contingency_order_record contingency(int32_t trigger, const char *name) {
+        contingency_order_record c{};
+        c.trigger = trigger;
+        c.order = order(SARGE_ORDER_HALT, name);
+        return c;
+    }
+};
+
+// Group Composition's controls.
+enum {
+    GC_AVAILABLE = 1036, GC_MEMBERS = 1034, GC_ADD = 1038, GC_REMOVE = 1037, GC_NAME = 1075, GC_RENAME = 1074,
+    GC_TYPE = 1081, GC_PERCENT = 1087, GC_PLUS = 1090, GC_MINUS = 1091, GC_BY_GROUP = 1096, GC_BY_UNIT = 1097,
+    GC_TARGET_PLAYER = 1198, GC_EDIT_ORDERS = 1086
+};
+// Group Orders' controls.
+enum {
+    GO_ORDERS = 1039, GO_ADD = 1049, GO_INSERT = 1047, GO_REMOVE = 1048, GO_EDIT = 1050,
+    GO_CONTINGENCIES = 1079, GO_C_ADD = 1053, GO_C_INSERT = 1051, GO_C_REMOVE = 1052, GO_C_EDIT = 1054
+};
