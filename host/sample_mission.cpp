@@ -174,6 +174,8 @@ host_ops sample_host_ops() {
     ops.host_formation_list = op_formations;
     ops.host_marker_list = op_markers;
     ops.host_object_exists = op_object_exists;
+    ops.host_unit_list = sample_unit_list;
+    ops.host_unit_list_standalone = sample_unit_list_standalone;
     ops.host_alloc = op_alloc;
     ops.host_free = op_free;
     ops.host_object_name = op_object_name;

@@ -40,3 +40,11 @@ void host_list_append(dlist_node *head, uintptr_t value);
 void host_list_free(dlist_node *head);
 char *host_text_copy(const std::string &text);
 void host_text_free(char *text);
+
+// Ground forces (sample_ground.cpp). Slots 22 and 26 hand out fresh 68-byte
+// unit copies in a host list; a release through slot 22 frees them.
+int EDITOR_CDECL sample_unit_list(dlist_node **list, int acquire);
+int EDITOR_CDECL sample_unit_list_standalone(dlist_node **list, int acquire);
+// The mission's groups (a dlist of group_record *), built on first use and
+// freed, with every group the editor added, when the main window goes away.
+dlist_node *sample_groups();

@@ -1,0 +1,89 @@
+// Ground groups: the Group List (request 11) and Group Composition (request 9)
+// over the sample mission's groups, and a tour through Group List, Group
+// Composition, Group Orders and the Orders dialog.
+#include <cstdio>
+#include <string>
+
+#include "host/host_app.h"
+#include "host/sample_mission.h"
+#include "host/ui_driver.h"
+
+namespace {
+uintptr_t arg(const void *p) { return reinterpret_cast<uintptr_t>(p); }
+
+std::string describe(const group_record *g) {
+    char line[200];
+    int members = 0;
+    if (g->members)
+        for (dlist_node *n = g->members->next; n != g->members; n = n->next) ++members;
+    std::snprintf(line, sizeof line, "  %s: status %d, %d members, %d orders, %d contingency orders, appearance 0x%X, type %d%s",
+                  g->name, g->status, members, g->order_count, g->contingency_count, g->appearance, g->group_type,
+                  g->target_player_only ? ", target player only" : "");
+    return line;
+}
+
+void log_groups() {
+    dlist_node *groups = sample_groups();
+    for (dlist_node *n = groups->next; n != groups; n = n->next)
+        app().log(describe(reinterpret_cast<group_record *>(n->value)));
+}
+
+// The first group that is not removed.
+group_record *first_group() {
+    dlist_node *groups = sample_groups();
+    for (dlist_node *n = groups->next; n != groups; n = n->next) {
+        auto *g = reinterpret_cast<group_record *>(n->value);
+        if (g->status != GROUP_STATUS_REMOVED) return g;
+    }
+    return nullptr;
+}
+
+void group_list() {
+    int result = app().window(REQUEST_GROUP_LIST, arg(sample_groups()), 0);
+    app().log("group list: answered " + std::to_string(result));
+    log_groups();
+}
+
+void edit_group(bool with_list) {
+    group_record *g = first_group();
+    if (!g) {
+        app().log("edit group: every group is removed");
+        return;
+    }
+    int result = app().window(REQUEST_GROUP_COMPOSITION, arg(g), with_list ? arg(sample_groups()) : 0);
+    app().log(std::string("edit group") + (with_list ? "" : " (no group list)") + ": answered " +
+              std::to_string(result));
+    app().log(describe(g));
+}
+
+void tour() {
+    ui_driver d;
+    d.then("Group List", [](HWND dlg) {
+        tour_screenshot(dlg, "group_list");
+        ui_command(dlg, 3);  // Edit: sarge0 is selected
+    });
+    d.then("Dialog", [](HWND dlg) {
+        ui_list_select_index(dlg, 1036, 0);
+        tour_screenshot(dlg, "group_composition");
+        ui_command(dlg, 1086);
+    });
+    d.then("Dialog", [](HWND dlg) {
+        ui_list_select_index(dlg, 1039, 1);
+        tour_screenshot(dlg, "group_orders");
+        ui_command(dlg, 1049);
+    });
+    d.then("Orders", [](HWND dlg) {
+        tour_screenshot(dlg, "orders");
+        ui_command(dlg, IDCANCEL);
+    });
+    d.then("Dialog", [](HWND dlg) { ui_command(dlg, IDCANCEL); });
+    d.then("Dialog", [](HWND dlg) { ui_command(dlg, IDCANCEL); });
+    d.then("Group List", [](HWND dlg) { ui_command(dlg, IDCANCEL); });
+    app().window(REQUEST_GROUP_LIST, arg(sample_groups()), 0);
+    if (!d.ok()) app().log("tour problem: " + d.failures());
+}
+}  // namespace
+
+HOST_FEATURE("&Ground", "Group &list...", group_list, tour, 45);
+HOST_FEATURE("&Ground", "Edit &group...", [] { edit_group(true); }, nullptr, 45);
+HOST_FEATURE("&Ground", "Edit group &without a group list...", [] { edit_group(false); }, nullptr, 45);
