@@ -117,6 +117,7 @@ void fill_group_types(HWND dialog) {
 }
 
 // An index array of `count` entries in host memory, for LB_GETSELITEMS.
+// An empty host list can have no selection, so it gets no (zero-byte) array.
 struct index_array {
     uint32_t count;
     int *indices;

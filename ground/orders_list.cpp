@@ -67,8 +67,8 @@ int orders_list_start() { return module.start(); }
 int orders_list_tidyup() { return module.tidyup(); }
 
 int choose_order_type(HWND owner, sarge_order_record *order) {
-    typed = order;
     if (!module.started || !order) return 0;
+    typed = order;
     INT_PTR result = DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(IDD_ORDERS), owner, orders_proc, 0);
     typed = nullptr;
     return result == 1 ? 1 : 0;
