@@ -36,12 +36,23 @@ bool load_editor(host_app &a) {
     return a.init && a.tidyup && a.update && a.win_messages && a.window && a.is_editor;
 }
 
+// Keyboard shortcuts named in feature labels after a tab, "Ctrl+<key>".
+std::vector<ACCEL> &shortcuts() {
+    static std::vector<ACCEL> table;
+    return table;
+}
+
+void add_shortcut(const char *label, int command) {
+    const char *tab = std::strchr(label, '\t');
+    if (!tab || std::strncmp(tab + 1, "Ctrl+", 5) != 0 || !tab[6] || tab[7]) return;
+    shortcuts().push_back(ACCEL{static_cast<BYTE>(FCONTROL | FVIRTKEY), static_cast<WORD>(tab[6]), static_cast<WORD>(command)});
+}
+
 HMENU build_menus() {
     HMENU bar = CreateMenu();
     HMENU file = CreatePopupMenu();
-    AppendMenuA(file, MF_STRING, command_exit, "E&xit");
-    AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(file), "&File");
-    std::vector<std::pair<std::string, HMENU>> menus;
+    // Features may add to the File menu too; Exit stays last.
+    std::vector<std::pair<std::string, HMENU>> menus{{"&File", file}};
     const auto &features = registry();
     for (size_t i = 0; i < features.size(); ++i) {
         auto found = std::find_if(menus.begin(), menus.end(),
@@ -51,7 +62,10 @@ HMENU build_menus() {
             found = menus.end() - 1;
         }
         AppendMenuA(found->second, MF_STRING, first_feature_command + i, features[i].label);
+        add_shortcut(features[i].label, static_cast<int>(first_feature_command + i));
     }
+    if (GetMenuItemCount(file) > 0) AppendMenuA(file, MF_SEPARATOR, 0, nullptr);
+    AppendMenuA(file, MF_STRING, command_exit, "E&xit");
     for (const auto &m : menus) AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(m.second), m.first.c_str());
     return bar;
 }
@@ -238,8 +252,11 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) 
         run_tour();
         DestroyWindow(a.main_window);
     } else {
+        HACCEL accelerators =
+            shortcuts().empty() ? nullptr : CreateAcceleratorTableA(shortcuts().data(), static_cast<int>(shortcuts().size()));
         MSG msg;
         while (GetMessageA(&msg, nullptr, 0, 0) > 0) {
+            if (accelerators && TranslateAcceleratorA(a.main_window, accelerators, &msg)) continue;
             TranslateMessage(&msg);
             DispatchMessageA(&msg);
         }

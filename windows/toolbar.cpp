@@ -103,10 +103,13 @@ int toolbar_sync_mode(int mode) {
     if (static_cast<unsigned>(mode) >= mode_count) return 0;
     HWND button = GetDlgItem(toolbar, mode_buttons[mode].id);
     if (!button) return 0;
+    // Remembered before the click: a host that answers the notification with
+    // an editor_update of the same mode (the state is stored only after this
+    // returns) would otherwise be pressed again, without end.
+    last_pressed_mode = mode;
     // Sent, not posted: the platform presses the button, releases the others
     // and delivers BN_CLICKED (so host_notify) before this returns.
     SendMessageA(button, BM_CLICK, 0, 0);
-    last_pressed_mode = mode;
     return 1;
 }
 

@@ -112,6 +112,14 @@ TEST_F(status_test, info_line_for_terrain_and_nothing) {
     send();
     EXPECT_EQ(caption(), "Info: (Terrain Location), (Terrain Normal)");
     EXPECT_EQ(info(), "(10.0, 20.3, 30.0), (0.00, 1.00, 0.00)");
+    state.info.terrain.location[0] = 64.0f;
+    state.info.terrain.location[1] = 12.34f;
+    state.info.terrain.location[2] = -8.0f;
+    state.info.terrain.normal[0] = 0.12f;
+    state.info.terrain.normal[1] = 0.98f;
+    state.info.terrain.normal[2] = -0.05f;
+    send();
+    EXPECT_EQ(info(), "(64.0, 12.3, -8.0), (0.12, 0.98, -0.05)");
     // Only mode 0 shows an info line.
     state.edit_mode = 3;
     send();
@@ -119,7 +127,7 @@ TEST_F(status_test, info_line_for_terrain_and_nothing) {
     EXPECT_EQ(info(), "");
     state.edit_mode = 0;
     send();
-    EXPECT_EQ(info(), "(10.0, 20.3, 30.0), (0.00, 1.00, 0.00)");
+    EXPECT_EQ(info(), "(64.0, 12.3, -8.0), (0.12, 0.98, -0.05)");
     state.info_kind = 5;
     send();
     EXPECT_EQ(caption(), "");

@@ -189,3 +189,17 @@ TEST_F(toolbar_test, cursor_message_over_the_toolbar_takes_activation_only_from_
     EXPECT_EQ(GetActiveWindow(), other);
     DestroyWindow(other);
 }
+
+TEST_F(toolbar_test, a_host_answering_the_mode_at_once_is_notified_once) {
+    ASSERT_EQ(start_editor(), 1);
+    // The host adopts the chosen mode and reports it back from inside the notification.
+    host.on_notify = [&](const notification &n) {
+        if (n.code != NOTIFY_MODE || host.notifications.size() > 10) return;
+        editor_update(state_with_mode(static_cast<int>(n.argument), 1));
+    };
+    host.notifications.clear();
+    EXPECT_EQ(editor_update(state_with_mode(2, 1)), 1);
+    EXPECT_EQ(mode_notifications(host, 2), 1);
+    EXPECT_EQ(editor_stored_state().edit_mode, 2);
+    EXPECT_EQ(GetCursor(), editor_cursor(118));
+}
