@@ -116,13 +116,13 @@ void fill_group_types(HWND dialog) {
     }
 }
 
-// An index array of `count` entries in host memory, for LB_GETSELITEMS.
-// An empty host list can have no selection, so it gets no (zero-byte) array.
+// An index array of `count` entries in host memory, for LB_GETSELITEMS. It is
+// asked for even when `count` is 0 (an empty host list), so the host sees
+// count x 4 bytes come and go on every Add-> and <-Remove.
 struct index_array {
     uint32_t count;
     int *indices;
-    explicit index_array(uint32_t n)
-        : count(n), indices(n ? static_cast<int *>(host().host_alloc(n * 4)) : nullptr) {}
+    explicit index_array(uint32_t n) : count(n), indices(static_cast<int *>(host().host_alloc(n * 4))) {}
     ~index_array() { release(); }
     index_array(const index_array &) = delete;
     index_array &operator=(const index_array &) = delete;
@@ -136,10 +136,10 @@ struct index_array {
         if (!indices) return;
         LRESULT selected = SendMessageA(list, LB_GETSELITEMS, count, reinterpret_cast<LPARAM>(indices));
         if (selected == LB_ERR || selected == 0) return;
-        for (LRESULT i = 0; i < selected; ++i) {
-            LRESULT id = SendMessageA(list, LB_GETITEMDATA, static_cast<WPARAM>(indices[i]), 0);
-            if (id != LB_ERR) act(static_cast<int32_t>(id));
-        }
+        // The indices came from the list itself, so the item data is always an
+        // id (-1 included: it is a valid id, not an error here).
+        for (LRESULT i = 0; i < selected; ++i)
+            act(static_cast<int32_t>(SendMessageA(list, LB_GETITEMDATA, static_cast<WPARAM>(indices[i]), 0)));
     }
 };
 
@@ -148,7 +148,7 @@ void add_selected_units(HWND dialog) {
     if (!host().host_unit_list(&units, HOST_LIST_ACQUIRE)) return;
     auto release = on_scope_exit([&] { host().host_unit_list(&units, HOST_LIST_RELEASE); });
     // Sized by the host's list, which the available lines were made from.
-    index_array selection(dlist_count(units));
+    index_array selection(units ? dlist_count(units) : 0);
     selection.for_selected_ids(GetDlgItem(dialog, IDC_AVAILABLE), [&](int32_t id) {
         for (unit_entry *unit : dlist_values<unit_entry>(units)) {
             if (!unit || unit->id != id) continue;

@@ -34,16 +34,25 @@ TEST_F(group_test, offers_units_no_other_live_group_holds_and_never_the_groups_o
 TEST_F(group_test, without_a_group_list_the_standalone_units_are_offered) {
     host.standalone_units = {test_host::unit(7, "Scout9", "recon"), test_host::unit(1, "Tank1", "tank_t80")};
     group_record *g = loose_group("alone", {host.units[0]});
+    host.units.clear();
     std::vector<std::string> available;
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
         available = ui_list_items(dlg, GC_AVAILABLE);
-        ui_command(dlg, IDCANCEL);
+        // Add-> looks units up in the other host list, empty here: nothing joins.
+        ui_list_select(dlg, GC_AVAILABLE, "Scout9 (recon)");
+        ui_command(dlg, GC_ADD);
     });
-    EXPECT_EQ(edit(arg(g), 0), 0);
+    d.then("Dialog", [&](HWND dlg) { ui_command(dlg, IDOK); });
+    EXPECT_EQ(edit(arg(g), 0), 1);
     EXPECT_DRIVER_OK(d);
     EXPECT_EQ(available, (std::vector<std::string>{"Scout9 (recon)"}));
-    EXPECT_EQ(host.standalone_acquires, 1);
+    EXPECT_EQ(host.standalone_acquires, 2);
+    EXPECT_EQ(host.unit_acquires, 1);
+    EXPECT_EQ(member_ids(g), (std::vector<int32_t>{1}));
+    // The index array is sized by that empty list: 0 x 4 bytes, asked for all the same.
+    auto sizes = host.memory.requested_sizes();
+    EXPECT_NE(std::find(sizes.begin(), sizes.end(), 0u), sizes.end());
 }
 
 TEST_F(group_test, added_units_go_in_front_and_removed_ones_are_released) {
@@ -303,10 +312,12 @@ TEST_F(group_test, refused_unit_lists_leave_the_available_list_empty) {
 }
 
 TEST_F(group_test, a_selected_unit_that_left_the_host_list_is_skipped) {
+    host.units.push_back(test_host::unit(-1, "Minus1", "decoy"));  // -1 is an id like any other
     group_record *g = add_group("sarge0", {});
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
         ui_list_select(dlg, GC_AVAILABLE, "Jeep3 (jeep)");
+        ui_list_select(dlg, GC_AVAILABLE, "Minus1 (decoy)");
         ui_list_select(dlg, GC_AVAILABLE, "Tank1 (tank_t80)");
         host.units.erase(host.units.begin());  // Tank1 goes away
         ui_command(dlg, GC_ADD);
@@ -314,10 +325,10 @@ TEST_F(group_test, a_selected_unit_that_left_the_host_list_is_skipped) {
     d.then("Dialog", [&](HWND dlg) { ui_command(dlg, IDOK); });
     EXPECT_EQ(edit(arg(g), groups_arg()), 1);
     EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(member_ids(g), (std::vector<int32_t>{4}));
-    // The index array was sized by the host's list at the time (4 units).
+    EXPECT_EQ(member_ids(g), (std::vector<int32_t>{-1, 4}));
+    // The index array was sized by the host's list at the time (5 units).
     auto sizes = host.memory.requested_sizes();
-    EXPECT_NE(std::find(sizes.begin(), sizes.end(), 16u), sizes.end());
+    EXPECT_NE(std::find(sizes.begin(), sizes.end(), 20u), sizes.end());
 }
 
 TEST_F(group_test, over_long_and_unterminated_names_are_cut_not_overrun) {
