@@ -49,22 +49,28 @@ void clear_members(dlist *members) { free_entries<unit_entry>(members); }
 bool load_group(group_working_copy &copy, const group_record &record) {
     copy = group_working_copy{};
     copy_name(copy.name, record.name);
+    // Each list is made just before it is filled: orders, contingencies, members.
     copy.orders = dlist_create();
-    copy.contingencies = dlist_create();
-    copy.members = dlist_create();
-    if (!copy.orders || !copy.contingencies || !copy.members) {
-        free_group_working_copy(copy);
-        return false;
-    }
+    if (!copy.orders) return false;
     // The counts are the host's; the slots bound them whatever they say.
     int orders = record.order_count < GROUP_MAX_ORDERS ? record.order_count : GROUP_MAX_ORDERS;
     for (int i = 0; i < orders; ++i) {
         append_copy(copy.orders, host_copy(record.orders[i]));
     }
+    copy.contingencies = dlist_create();
+    if (!copy.contingencies) {
+        free_group_working_copy(copy);
+        return false;
+    }
     int contingencies =
         record.contingency_count < GROUP_MAX_CONTINGENCIES ? record.contingency_count : GROUP_MAX_CONTINGENCIES;
     for (int i = 0; i < contingencies; ++i) {
         append_copy(copy.contingencies, host_copy(record.contingencies[i]));
+    }
+    copy.members = dlist_create();
+    if (!copy.members) {
+        free_group_working_copy(copy);
+        return false;
     }
     for (unit_entry *unit : dlist_values<unit_entry>(record.members)) {
         if (unit) append_copy(copy.members, copy_unit(*unit));

@@ -6,8 +6,6 @@
 #include "tests/ground/group_fixture.h"
 
 namespace {
-uintptr_t arg(const void *p) { return reinterpret_cast<uintptr_t>(p); }
-
 std::vector<std::string> names_of(const dlist *list) {
     std::vector<std::string> names;
     for (sarge_order_record *o : dlist_values<sarge_order_record>(list)) names.push_back(o->name);
@@ -237,11 +235,19 @@ TEST_F(orders_test, full_lists_refuse_add_and_insert) {
     EXPECT_EQ(dlist_count(working.contingencies), 15u);
 }
 
-TEST_F(orders_test, not_started_builds_nothing) {
-    load({order(SARGE_ORDER_HALT, "A")}, {});
+TEST_F(orders_test, not_started_builds_nothing_and_an_empty_group_keeps_two_empty_lists) {
+    load({}, {});
     size_t blocks = host.memory.live_blocks();
     group_orders_tidyup();
     EXPECT_EQ(edit_group_orders(host.main_window, &working), 0);
     EXPECT_EQ(host.memory.live_blocks(), blocks);
     group_orders_start();
+
+    ui_driver d;
+    d.then("Dialog", [&](HWND dlg) { ui_command(dlg, IDOK); });
+    EXPECT_EQ(edit_group_orders(host.main_window, &working), 1);
+    EXPECT_DRIVER_OK(d);
+    ASSERT_TRUE(working.orders && working.contingencies);
+    EXPECT_EQ(dlist_count(working.orders) + dlist_count(working.contingencies), 0u);
+    EXPECT_EQ(host.memory.live_blocks(), blocks);
 }
