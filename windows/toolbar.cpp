@@ -110,6 +110,9 @@ int toolbar_sync_mode(int mode) {
     // Sent, not posted: the platform presses the button, releases the others
     // and delivers BN_CLICKED (so host_notify) before this returns.
     SendMessageA(button, BM_CLICK, 0, 0);
+    // And again after it: a host that answered with another mode has pressed
+    // that one from inside the notification, yet this mode is the last.
+    last_pressed_mode = mode;
     return 1;
 }
 

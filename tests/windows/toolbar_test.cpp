@@ -121,6 +121,14 @@ TEST_F(editor_test, toolbar_presses_again_after_tidyup_and_tolerates_an_echoing_
     EXPECT_EQ(editor_update(state_with_mode(2, 1)), 1);
     EXPECT_EQ(mode_notifications(host, 2), 1);
     EXPECT_EQ(GetCursor(), editor_cursor(118));
+    // A host that answers with another mode: the mode it answered is pressed
+    // inside, but the mode being synchronised stays the last pressed one.
+    host.on_notify = [&](const notification &n) {
+        if (n.code == NOTIFY_MODE && n.argument == 3) editor_update(state_with_mode(4, 1));
+    };
+    EXPECT_EQ(editor_update(state_with_mode(3, 1)), 1);
+    EXPECT_EQ(mode_notifications(host, 4), 1);
+    EXPECT_EQ(toolbar_sync_mode(3), 0);
 }
 
 TEST_F(editor_test, toolbar_and_status_take_activation_only_from_editor_windows) {
