@@ -178,7 +178,8 @@ void confirm(HWND dialog) {
     switch (chosen_trigger) {
     case TRIGGER_ENEMY_CLOSE:
         // The longest leading number; 0 when there is none.
-        record.distance = static_cast<float>(std::strtod(value, nullptr));
+        record.distance = 0;
+        leading_decimal(value, record.distance);
         break;
     case TRIGGER_DAMAGE:
         record.survivors = static_cast<int32_t>(std::strtol(value, nullptr, 10));

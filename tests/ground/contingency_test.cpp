@@ -120,10 +120,10 @@ TEST_F(contingency_test, value_reads_by_trigger_type) {
     EXPECT_DRIVER_OK(d);
     EXPECT_EQ(r.distance, 12.5f);
 
-    // No number at all reads as 0, unlike the "%f" scans.
+    // No plain decimal number reads as 0, unlike the "%f" scans.
     ui_driver d2;
     d2.then(title, [&](HWND dlg) {
-        ui_set_text(dlg, VALUE, "near");
+        ui_set_text(dlg, VALUE, "inf");
         ui_command(dlg, IDOK);
     });
     EXPECT_EQ(edit(r), 1);

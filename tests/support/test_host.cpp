@@ -28,7 +28,11 @@ int acquire_names(const std::vector<std::string> &names, dlist_node **list, int 
         ++h.lists_out;
         return 1;
     }
-    if (h.refuse_release && refusing) return 0;
+    if (h.refuse_release && refusing) {
+        h.refused_releases.push_back(*list);
+        --h.lists_out;
+        return 0;
+    }
     h.free_list(*list);
     *list = nullptr;
     --h.lists_out;
@@ -247,6 +251,8 @@ void editor_test::TearDown() {
     ui_driver::close_all_dialogs();
     if (editor_started) editor_tidyup();
     EXPECT_EQ(host.lists_out, 0) << "host lists acquired and never released";
+    for (dlist_node *list : host.refused_releases) host.free_list(list);
+    host.refused_releases.clear();
     std::vector<std::string> problems = host.memory.problems();
     std::string all;
     for (const std::string &p : problems) all += p + "\n";

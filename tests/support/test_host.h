@@ -42,6 +42,9 @@ struct test_host {
     bool refuse_acquire = false;
     bool refuse_release = false;
     int lists_out = 0;  // acquired and not yet released
+    // Lists whose release the host refused: the editor did its part, so they
+    // count as released and are freed at the end of the test.
+    std::vector<dlist_node *> refused_releases;
 
     // Units handed out by host_unit_list (slot 22) and host_unit_list_standalone
     // (slot 26): every acquire builds fresh 68-byte copies, and a release
