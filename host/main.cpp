@@ -164,7 +164,15 @@ void host_app::log(const std::string &line) {
 void tour_screenshot(HWND window, const std::string &name) {
     host_app &a = app();
     if (a.gallery.empty()) return;
+    // Let the window and its children finish painting before the copy: the
+    // screen is read, not the window's own drawing.
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
+    for (DWORD start = GetTickCount(); GetTickCount() - start < 150;) {
+        MSG msg;
+        while (PeekMessageA(&msg, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE)) DispatchMessageA(&msg);
+        Sleep(10);
+    }
+    GdiFlush();
     RECT r;
     GetWindowRect(window, &r);
     int w = r.right - r.left, h = r.bottom - r.top;
