@@ -235,6 +235,64 @@ enum message_kind {
 
 /* --- Create New Objects ------------------------------------------------- */
 
+/* Field bits of create_objects_record.preset and .enabled. */
+enum create_objects_field {
+    CO_TYPE = 0x001,     /* type: combo box 1008 */
+    CO_REF_OBJ = 0x002,  /* ref_obj: combo box 1021 */
+    CO_NUMBER = 0x004,   /* number: edit 1010 */
+    CO_OBJ_DIST = 0x008, /* obj_dist: edit 1012 */
+    CO_CAM_DIST = 0x010, /* cam_dist: edit 1020 */
+    CO_AALIGN = 0x020,   /* aalign: radio buttons 1015, 1017, 1018 */
+    CO_AACAMREL = 0x040, /* aacamrel: check box 1016 */
+    CO_ORIENT = 0x080,   /* orient: radio buttons 1022, 1023, 1024 */
+    CO_OCAMREL = 0x100   /* ocamrel: check box 1025 */
+};
+
+/* The kinds of object the designer can place (create_objects_record.type). */
+enum object_type {
+    OBJECT_WORLD = 0,          /* "World (General)" */
+    OBJECT_CULTURAL = 1,       /* "Cultural" */
+    OBJECT_GRALLS = 2,         /* "Gralls (Ground Units with weapons)" */
+    OBJECT_GROUP_WAYPOINT = 3, /* "Group Waypoint Object" */
+    OBJECT_BOMBING_RUN = 4,    /* "Bombing Run" */
+    OBJECT_RALLY_POINT = 5,    /* "Rally Point" */
+    OBJECT_HELICOPTER = 6,     /* "Helicopter" */
+    OBJECT_GRUNIT = 7,         /* "Grunit" */
+    OBJECT_MAN = 8,            /* "Man" */
+    OBJECT_TYPE_COUNT = 9
+};
+
+/* Axes of aalign and orient. */
+enum { CO_AXIS_X = 1, CO_AXIS_Y = 2, CO_AXIS_Z = 3 };
+
+/* REQUEST_CREATE_OBJECTS: what the host offers (enabled), what it already
+ * knows (preset), and on OK the designer's choices. */
+typedef struct create_objects_record {
+    uint32_t preset;   /* fields shown from this record instead of the remembered values */
+    uint32_t enabled;  /* fields the designer may set; only these are validated and changed */
+    int32_t type;      /* object_type, 0 to 8 */
+    char ref_obj[64];  /* reference object name, at most 63 characters */
+    uint32_t number;   /* 1 to 10 */
+    float obj_dist;    /* metres between objects, > 0 */
+    float cam_dist;    /* metres from the camera, > 0 */
+    int32_t aalign;    /* CO_AXIS_X, CO_AXIS_Y or CO_AXIS_Z */
+    int32_t aacamrel;  /* 0 or 1 */
+    int32_t orient;    /* CO_AXIS_X, CO_AXIS_Y or CO_AXIS_Z */
+    int32_t ocamrel;   /* 0 or 1 */
+} create_objects_record;
+EDITOR_CHECK_SIZE(create_objects_record, 104);
+EDITOR_CHECK_OFFSET(create_objects_record, preset, 0);
+EDITOR_CHECK_OFFSET(create_objects_record, enabled, 4);
+EDITOR_CHECK_OFFSET(create_objects_record, type, 8);
+EDITOR_CHECK_OFFSET(create_objects_record, ref_obj, 12);
+EDITOR_CHECK_OFFSET(create_objects_record, number, 76);
+EDITOR_CHECK_OFFSET(create_objects_record, obj_dist, 80);
+EDITOR_CHECK_OFFSET(create_objects_record, cam_dist, 84);
+EDITOR_CHECK_OFFSET(create_objects_record, aalign, 88);
+EDITOR_CHECK_OFFSET(create_objects_record, aacamrel, 92);
+EDITOR_CHECK_OFFSET(create_objects_record, orient, 96);
+EDITOR_CHECK_OFFSET(create_objects_record, ocamrel, 100);
+
 /* --- Ground forces -------------------------------------------------------- */
 
 /* A unit as the host lists it, and as a group's member list holds it. */
