@@ -17,12 +17,12 @@ sample_mission &mission() {
         s.reference_names[0] = {"Bridge1", "Church", "Crossroads"};
         s.reference_names[1] = {"Farmhouse", "Water Tower"};
         s.reference_names[2] = {"Tank1", "Tank2"};
-        s.reference_names[3] = {"Grunt7"};
-        s.reference_names[4] = {"WP_North", "WP_South"};
+        s.reference_names[3] = {"WP_North", "WP_South"};
+        s.reference_names[4] = {"Bridge1", "Crossroads"};
         s.reference_names[5] = {};  // a type with nothing to refer to
-        s.reference_names[6] = {"Airfield"};
-        s.reference_names[7] = {"Helipad"};
-        s.reference_names[8] = {"Grunt7", "Tank1"};
+        s.reference_names[6] = {"Airfield", "Helipad"};
+        s.reference_names[7] = {"Grunt7", "Tank1"};
+        s.reference_names[8] = {"Grunt7"};
         s.message_targets = {"sarge0", "sarge1", "HQ"};
         s.formations = {"Column", "Line", "Wedge", "Echelon Left", "Echelon Right"};
         s.markers = {"WP_North", "WP_South", "WP_Bridge", "LZ_Alpha", "LZ_Bravo"};
