@@ -60,16 +60,6 @@ TEST_F(create_objects_test, preset_number_above_ten_is_refused_without_a_dialog)
     EXPECT_DRIVER_OK(d);
     EXPECT_EQ(text, "Invalid selection for number of objects!");
     EXPECT_EQ(std::memcmp(&before, &record, sizeof record), 0);
-
-    // Ten is still allowed, and a number that is not preset is not checked here.
-    record.number = 10;
-    ui_driver d2;
-    d2.then(title, [](HWND dlg) {
-        EXPECT_EQ(ui_text(dlg, IDC_CO_NUMBER), "10");
-        ui_command(dlg, IDCANCEL);
-    });
-    EXPECT_EQ(open(), 0);
-    EXPECT_DRIVER_OK(d2);
 }
 
 TEST_F(create_objects_test, template_header) {
@@ -80,10 +70,6 @@ TEST_F(create_objects_test, template_header) {
     EXPECT_EQ(header->cdit, 22);
     EXPECT_EQ(header->cx, 217);
     EXPECT_EQ(header->cy, 274);
-}
-
-TEST_F(create_objects_test, not_started_answers_zero) {
-    EXPECT_EQ(create_objects_dialog(&record), 0);
 }
 
 TEST_F(create_objects_test, nothing_offered_shows_nothing_and_ok_keeps_the_record) {
@@ -106,42 +92,6 @@ TEST_F(create_objects_test, nothing_offered_shows_nothing_and_ok_keeps_the_recor
     EXPECT_EQ(open(), 1);
     EXPECT_DRIVER_OK(d);
     EXPECT_EQ(std::memcmp(&before, &record, sizeof record), 0);
-}
-
-TEST_F(create_objects_test, defaults_shown_and_returned) {
-    ASSERT_EQ(start_editor(), 1);
-    record.enabled = all_fields;
-    ui_driver d;
-    d.then(title, [](HWND dlg) {
-        EXPECT_EQ(ui_combo_items(dlg, IDC_CO_TYPE), sorted_types);
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_CO_TYPE), "World (General)");
-        // Each item carries its type index, whatever its sorted place.
-        EXPECT_EQ(SendDlgItemMessageA(dlg, IDC_CO_TYPE, CB_GETITEMDATA, 4, 0), 7);  // Grunit
-        EXPECT_EQ(SendDlgItemMessageA(dlg, IDC_CO_TYPE, CB_GETITEMDATA, 0, 0), 4);  // Bombing Run
-        EXPECT_EQ(ui_combo_items(dlg, IDC_CO_REF_OBJ), (std::vector<std::string>{"Bridge1", "Church", "Crossroads"}));
-        EXPECT_EQ(ui_text(dlg, IDC_CO_REF_OBJ), "Bridge1");  // nothing remembered: the first item
-        EXPECT_EQ(ui_text(dlg, IDC_CO_NUMBER), "1");
-        EXPECT_EQ(ui_text(dlg, IDC_CO_OBJ_DIST), "50.000");
-        EXPECT_FALSE(ui_enabled(dlg, IDC_CO_OBJ_DIST));  // one object: no spacing
-        EXPECT_EQ(ui_text(dlg, IDC_CO_CAM_DIST), "100.000");
-        EXPECT_TRUE(ui_checked(dlg, IDC_CO_AALIGN_Z));
-        EXPECT_TRUE(ui_checked(dlg, IDC_CO_AACAMREL));
-        EXPECT_TRUE(ui_checked(dlg, IDC_CO_ORIENT_Z));
-        EXPECT_TRUE(ui_checked(dlg, IDC_CO_OCAMREL));
-        EXPECT_EQ(GetFocus(), GetDlgItem(dlg, IDC_CO_TYPE));
-        ui_command(dlg, IDOK);
-    });
-    EXPECT_EQ(open(), 1);
-    EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(record.type, 0);
-    EXPECT_STREQ(record.ref_obj, "Bridge1");
-    EXPECT_EQ(record.number, 1u);
-    EXPECT_EQ(record.obj_dist, 50.0f);
-    EXPECT_EQ(record.cam_dist, 100.0f);
-    EXPECT_EQ(record.aalign, 3);
-    EXPECT_EQ(record.aacamrel, 1);
-    EXPECT_EQ(record.orient, 3);
-    EXPECT_EQ(record.ocamrel, 1);
 }
 
 TEST_F(create_objects_test, preset_values_shown_and_preset_name_remembered_at_once) {
@@ -343,103 +293,86 @@ TEST_F(create_objects_test, reference_must_match_an_item) {
         d.then(title, [](HWND dlg) { ui_set_text(dlg, IDC_CO_REF_OBJ, "Chur"); });
         expect_refused(d, "Invalid reference object selection!");
     }
+    // Matching ignores case and stores the typed text; over-long texts in
+    // the other edits are judged whole, without overflow.
+    record.enabled |= CO_NUMBER | CO_OBJ_DIST;
     ui_driver d;
     d.then(title, [](HWND dlg) {
         ui_set_text(dlg, IDC_CO_REF_OBJ, "cHuRcH");
+        ui_set_text(dlg, IDC_CO_NUMBER, "3" + std::string(299, 'x'));  // "%u" takes the leading number
+        ui_set_text(dlg, IDC_CO_OBJ_DIST, std::string(296, '0') + "2.5");
         ui_command(dlg, IDOK);
     });
     EXPECT_EQ(open(), 1);
     EXPECT_DRIVER_OK(d);
     EXPECT_STREQ(record.ref_obj, "cHuRcH");
-}
-
-TEST_F(create_objects_test, long_texts_in_every_edit_are_cut_or_refused_safely) {
-    ASSERT_EQ(start_editor(), 1);
-    record.enabled = CO_NUMBER | CO_OBJ_DIST | CO_CAM_DIST;
-    record.preset = CO_REF_OBJ;
-    std::memset(record.ref_obj, 'r', sizeof record.ref_obj);  // not terminated
-    ui_driver d;
-    d.answer_box("Editor Error", IDOK)  // no type to list references for
-        .then(title, [](HWND dlg) {
-        ui_set_text(dlg, IDC_CO_NUMBER, "3" + std::string(299, 'x'));  // "%u" takes the leading number
-        ui_set_text(dlg, IDC_CO_OBJ_DIST, std::string(296, '0') + "2.5");
-        ui_set_text(dlg, IDC_CO_CAM_DIST, "9");
-        ui_command(dlg, IDOK);
-    });
-    EXPECT_EQ(open(), 1);
-    EXPECT_DRIVER_OK(d);
     EXPECT_EQ(record.number, 3u);
     EXPECT_EQ(record.obj_dist, 2.5f);
+
+    // A preset name not terminated within its field is remembered cut to 63.
+    record.preset = CO_REF_OBJ;
+    std::memset(record.ref_obj, 'r', sizeof record.ref_obj);
+    ui_driver d2;
+    d2.then(title, [](HWND dlg) { ui_command(dlg, IDCANCEL); });
+    EXPECT_EQ(open(), 0);
+    EXPECT_DRIVER_OK(d2);
     EXPECT_EQ(std::string(create_objects_remembered().ref_obj), std::string(63, 'r'));
 }
 
-TEST_F(create_objects_test, remembered_type_shows_grunit_in_its_sorted_place) {
-    host.write_setting("Query", "Type", "7");
+TEST_F(create_objects_test, defaults_then_choices_survive_a_restart_through_the_settings_file) {
     ASSERT_EQ(start_editor(), 1);
-    record.enabled = CO_TYPE | CO_REF_OBJ;
+    record.enabled = all_fields;
     ui_driver d;
     d.then(title, [](HWND dlg) {
-        std::vector<std::string> items = ui_combo_items(dlg, IDC_CO_TYPE);
-        ASSERT_EQ(items.size(), 9u);
-        EXPECT_EQ(items[3], "Group Waypoint Object");
-        EXPECT_EQ(items[4], "Grunit");
-        EXPECT_EQ(items[5], "Helicopter");
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_CO_TYPE), "Grunit");
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_CO_REF_OBJ), "Helipad");
-        ui_command(dlg, IDOK);
-    });
+         EXPECT_EQ(ui_combo_items(dlg, IDC_CO_TYPE), sorted_types);
+         EXPECT_EQ(ui_combo_selected(dlg, IDC_CO_TYPE), "World (General)");
+         EXPECT_EQ(SendDlgItemMessageA(dlg, IDC_CO_TYPE, CB_GETITEMDATA, 4, 0), OBJECT_GRUNIT);
+         EXPECT_EQ(ui_combo_items(dlg, IDC_CO_REF_OBJ), (std::vector<std::string>{"Bridge1", "Church", "Crossroads"}));
+         EXPECT_EQ(ui_text(dlg, IDC_CO_REF_OBJ), "Bridge1");  // nothing remembered: the first item
+         EXPECT_EQ(ui_text(dlg, IDC_CO_NUMBER), "1");
+         EXPECT_EQ(ui_text(dlg, IDC_CO_OBJ_DIST), "50.000");
+         EXPECT_FALSE(ui_enabled(dlg, IDC_CO_OBJ_DIST));  // one object: no spacing
+         EXPECT_EQ(ui_text(dlg, IDC_CO_CAM_DIST), "100.000");
+         for (int id : {IDC_CO_AALIGN_Z, IDC_CO_AACAMREL, IDC_CO_ORIENT_Z, IDC_CO_OCAMREL}) EXPECT_TRUE(ui_checked(dlg, id));
+         ui_combo_select(dlg, IDC_CO_TYPE, "Grunit");
+     })
+        .then(title, [](HWND dlg) {
+            ui_set_text(dlg, IDC_CO_NUMBER, "3");
+            ui_set_text(dlg, IDC_CO_OBJ_DIST, "12.5");
+            ui_set_text(dlg, IDC_CO_CAM_DIST, "250");
+            ui_click(dlg, IDC_CO_AALIGN_Y);
+            ui_click(dlg, IDC_CO_AACAMREL);
+            ui_click(dlg, IDC_CO_ORIENT_X);
+        })
+        .then(title, [](HWND dlg) { ui_command(dlg, IDOK); });
     EXPECT_EQ(open(), 1);
     EXPECT_DRIVER_OK(d);
     EXPECT_EQ(record.type, OBJECT_GRUNIT);
     EXPECT_STREQ(record.ref_obj, "Helipad");
-}
-
-TEST_F(create_objects_test, remembered_values_survive_a_restart_through_the_settings_file) {
-    ASSERT_EQ(start_editor(), 1);
-    record.enabled = all_fields;
-    ui_driver d;
-    d.then(title, [](HWND dlg) {
-        ui_combo_select(dlg, IDC_CO_TYPE, "Grunit");
-    }).then(title, [](HWND dlg) {
-        ui_set_text(dlg, IDC_CO_NUMBER, "3");
-        ui_set_text(dlg, IDC_CO_OBJ_DIST, "12.5");
-        ui_set_text(dlg, IDC_CO_CAM_DIST, "250");
-        ui_click(dlg, IDC_CO_AALIGN_Y);
-        ui_click(dlg, IDC_CO_AACAMREL);
-        ui_click(dlg, IDC_CO_ORIENT_X);
-    }).then(title, [](HWND dlg) { ui_command(dlg, IDOK); });
-    EXPECT_EQ(open(), 1);
-    EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(record.aalign, 2);
+    EXPECT_EQ(record.number, 3u);
+    EXPECT_EQ(record.cam_dist, 250.0f);
+    EXPECT_EQ(record.aalign, CO_AXIS_Y);
     EXPECT_EQ(record.aacamrel, 0);
-    EXPECT_EQ(record.orient, 1);
+    EXPECT_EQ(record.orient, CO_AXIS_X);
+    EXPECT_EQ(record.ocamrel, 1);
     ASSERT_EQ(editor_tidyup(), 1);
 
-    EXPECT_EQ(host.read_setting("Query", "Type"), "7");
-    EXPECT_EQ(host.read_setting("Query", "RefObj"), "Helipad");
-    EXPECT_EQ(host.read_setting("Query", "Number"), "3");
-    EXPECT_EQ(host.read_setting("Query", "ObjDist"), "12.500000");
-    EXPECT_EQ(host.read_setting("Query", "CamDist"), "250.000000");
-    EXPECT_EQ(host.read_setting("Query", "AAlign"), "2");
-    EXPECT_EQ(host.read_setting("Query", "AACamRel"), "0");
-    EXPECT_EQ(host.read_setting("Query", "Orient"), "1");
-    EXPECT_EQ(host.read_setting("Query", "OCamrel"), "1");
+    const char *const expected[][2] = {{"Type", "7"},         {"RefObj", "Helipad"}, {"Number", "3"},
+                                       {"ObjDist", "12.500000"}, {"CamDist", "250.000000"}, {"AAlign", "2"},
+                                       {"AACamRel", "0"},     {"Orient", "1"},       {"OCamrel", "1"}};
+    for (const auto &key : expected) EXPECT_EQ(host.read_setting("Query", key[0]), key[1]) << key[0];
 
+    // A new run starts from the file: Grunit sits between Group Waypoint Object and Helicopter.
     ASSERT_EQ(start_editor(), 1);
-    record = create_objects_record{};
-    record.enabled = all_fields;
+    record.enabled = CO_TYPE | CO_REF_OBJ | CO_OBJ_DIST | CO_NUMBER | CO_AACAMREL;
     ui_driver d2;
     d2.then(title, [](HWND dlg) {
+        EXPECT_EQ(ui_combo_items(dlg, IDC_CO_TYPE)[4], "Grunit");
         EXPECT_EQ(ui_combo_selected(dlg, IDC_CO_TYPE), "Grunit");
         EXPECT_EQ(ui_combo_selected(dlg, IDC_CO_REF_OBJ), "Helipad");
-        EXPECT_EQ(ui_text(dlg, IDC_CO_NUMBER), "3");
         EXPECT_EQ(ui_text(dlg, IDC_CO_OBJ_DIST), "12.500");
         EXPECT_TRUE(ui_enabled(dlg, IDC_CO_OBJ_DIST));
-        EXPECT_EQ(ui_text(dlg, IDC_CO_CAM_DIST), "250.000");
-        EXPECT_TRUE(ui_checked(dlg, IDC_CO_AALIGN_Y));
         EXPECT_FALSE(ui_checked(dlg, IDC_CO_AACAMREL));
-        EXPECT_TRUE(ui_checked(dlg, IDC_CO_ORIENT_X));
-        EXPECT_TRUE(ui_checked(dlg, IDC_CO_OCAMREL));
         ui_command(dlg, IDCANCEL);
     });
     EXPECT_EQ(open(), 0);
@@ -516,28 +449,24 @@ TEST_F(create_objects_test, host_without_reference_objects) {
     EXPECT_EQ(boxes[2], "No reference object available!");
 }
 
-TEST_F(create_objects_test, reference_wanted_without_a_type) {
-    ASSERT_EQ(start_editor(), 1);
-    record.enabled = CO_REF_OBJ;
-    std::string text;
-    ui_driver d;
-    d.answer_box("Editor Error", IDOK, &text).then(title, [](HWND dlg) {
-        EXPECT_TRUE(ui_combo_items(dlg, IDC_CO_TYPE).empty());
-        EXPECT_TRUE(ui_combo_items(dlg, IDC_CO_REF_OBJ).empty());
-        ui_command(dlg, IDCANCEL);
-    });
-    EXPECT_EQ(open(), 0);
-    EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(text, "Invalid type of objects!");
-}
 
-TEST_F(create_objects_test, refused_acquire_and_release_empty_the_list) {
+TEST_F(create_objects_test, reference_list_failures_leave_it_empty) {
     ASSERT_EQ(start_editor(), 1);
-    record.enabled = CO_TYPE | CO_REF_OBJ;
-    for (bool refuse_release : {false, true}) {
-        SCOPED_TRACE(refuse_release ? "release refused" : "acquire refused");
-        host.refuse_acquire = !refuse_release;
-        host.refuse_release = refuse_release;
+    struct scenario {
+        const char *name;
+        uint32_t enabled;
+        bool refuse_acquire, refuse_release;
+        const char *message;
+    } scenarios[] = {
+        {"no type offered", CO_REF_OBJ, false, false, "Invalid type of objects!"},
+        {"acquire refused", CO_TYPE | CO_REF_OBJ, true, false, "No reference object available!"},
+        {"release refused", CO_TYPE | CO_REF_OBJ, false, true, "No reference object available!"},
+    };
+    for (const scenario &c : scenarios) {
+        SCOPED_TRACE(c.name);
+        record.enabled = c.enabled;
+        host.refuse_acquire = c.refuse_acquire;
+        host.refuse_release = c.refuse_release;
         std::string text;
         ui_driver d;
         d.answer_box("Editor Error", IDOK, &text).then(title, [](HWND dlg) {
@@ -546,7 +475,7 @@ TEST_F(create_objects_test, refused_acquire_and_release_empty_the_list) {
         });
         EXPECT_EQ(open(), 0);
         EXPECT_DRIVER_OK(d);
-        EXPECT_EQ(text, "No reference object available!");
+        EXPECT_EQ(text, c.message);
     }
     EXPECT_EQ(host.refused_releases.size(), 1u);
 }
