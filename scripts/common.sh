@@ -41,7 +41,9 @@ with_display() {
     done
     local rc=0
     DISPLAY=":$n" "$@" || rc=$?
-    DISPLAY=":$n" wineserver -k >/dev/null 2>&1 || true
+    # Let Wine wind down on its own before its X server goes away; a run in
+    # the same prefix on another display is not cut short this way.
+    DISPLAY=":$n" timeout 30 wineserver -w >/dev/null 2>&1 || true
     kill "$xpid" 2>/dev/null || true
     wait "$xpid" 2>/dev/null || true
     return $rc
