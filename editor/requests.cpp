@@ -1,11 +1,11 @@
 #include "editor/requests.h"
 
 #include "editor_api.h"
-#include "util/dialogs.h"
 #include "ground/group_composition.h"
 #include "ground/group_list.h"
 #include "ground/object_names.h"
 #include "placement/create_objects.h"
+#include "util/dialogs.h"
 #include "windows/save_file.h"
 
 namespace {
@@ -29,6 +29,16 @@ int create_objects(uintptr_t record, uintptr_t) {
     return create_objects_dialog(reinterpret_cast<create_objects_record *>(record));
 }
 
+int group_composition(uintptr_t group, uintptr_t groups) {
+    return edit_group(reinterpret_cast<group_record *>(group), reinterpret_cast<dlist_node *>(groups));
+}
+
+int object_names(uintptr_t units, uintptr_t) {
+    return list_object_names(reinterpret_cast<dlist_node *>(units));
+}
+
+int group_list(uintptr_t groups, uintptr_t) { return list_groups(reinterpret_cast<dlist_node *>(groups)); }
+
 // Indexed by request code. A null entry is a dialog not built yet: it answers 0.
 const request_handler handlers[] = {
     message_box,                                 // REQUEST_MESSAGE_BOX
@@ -40,9 +50,9 @@ const request_handler handlers[] = {
     save_file<1>,                                // REQUEST_SAVE_MISSION_FILE
     fixed_message<20, MESSAGE_QUESTION>,         // REQUEST_CONFIRM_DELETE
     fixed_message<25, MESSAGE_ERROR>,            // REQUEST_UNMATCHED_GROUP
-    [](uintptr_t group, uintptr_t groups) { return edit_group(reinterpret_cast<group_record *>(group), reinterpret_cast<dlist_node *>(groups)); },  // REQUEST_GROUP_COMPOSITION
-    [](uintptr_t list, uintptr_t) { return list_object_names(reinterpret_cast<dlist_node *>(list)); },  // REQUEST_OBJECT_NAMES
-    [](uintptr_t groups, uintptr_t) { return list_groups(reinterpret_cast<dlist_node *>(groups)); },  // REQUEST_GROUP_LIST
+    group_composition,                           // REQUEST_GROUP_COMPOSITION
+    object_names,                                // REQUEST_OBJECT_NAMES
+    group_list,                                  // REQUEST_GROUP_LIST
     nullptr,                                     // REQUEST_BOMBING_RUN
     nullptr,                                     // REQUEST_RALLY_POINT
     nullptr,                                     // REQUEST_EDIT_HELI_GROUP
