@@ -4,11 +4,26 @@
 
 #include <algorithm>
 #include <cstring>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
 #include "editor/editor.h"
 #include "tests/support/test_host.h"
+
+// Runs `open` while `steps` act in turn on the window titled `title`; every
+// step must run. Answers what `open` answered.
+inline void press_ok(HWND dialog) { ui_command(dialog, IDOK); }
+inline void press_cancel(HWND dialog) { ui_command(dialog, IDCANCEL); }
+
+template <class Open>
+int drive(const std::string &title, std::initializer_list<ui_driver::action> steps, Open open) {
+    ui_driver d;
+    for (const ui_driver::action &step : steps) d.then(title, step);
+    const int result = open();
+    EXPECT_DRIVER_OK(d);
+    return result;
+}
 
 class group_test : public editor_test {
 protected:
