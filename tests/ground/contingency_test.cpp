@@ -28,28 +28,27 @@ protected:
 };
 
 TEST_F(contingency_test, fresh_record_opens_as_enemy_close_and_halt) {
-    EXPECT_EQ(edit({[&](HWND dlg) {
-                  EXPECT_EQ(ui_combo_items(dlg, TRIGGER),
-                            (names{"Enemy Close", "Under Fire", "Damage", "Message", "Continue"}));
-                  EXPECT_EQ(ui_combo_selected(dlg, TRIGGER), "Enemy Close");
-                  EXPECT_EQ(ui_text(dlg, VALUE_LABEL), "Distance (m)");
-                  EXPECT_EQ(ui_text(dlg, VALUE), "");
-                  EXPECT_TRUE(ui_enabled(dlg, VALUE) && ui_enabled(dlg, NEXT_ORDER));
-                  EXPECT_EQ(ui_combo_items(dlg, ORDER_TYPE),
-                            (names{"Halt", "Defend", "Mobile Defence", "March", "Advance", "Barrage"}));
-                  EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Halt");
-                  EXPECT_EQ(ui_text(dlg, AMOUNT_LABEL), "Duration (secs)");
-                  EXPECT_EQ(ui_text(dlg, AMOUNT), "0.000000");
-                  EXPECT_TRUE(ui_enabled(dlg, AMOUNT));
-                  EXPECT_FALSE(ui_enabled(dlg, DESTINATION) || ui_enabled(dlg, FORMATION));
-                  EXPECT_EQ(ui_combo_selected(dlg, TARGET), "NONE");
-                  ui_set_text(dlg, VALUE, "12.5m");
-                  ui_set_text(dlg, NEXT_ORDER, "abcdefghijklmnopqrst");
-                  ui_combo_select(dlg, TARGET, "HQ");
-                  ui_set_text(dlg, MESSAGE, "done");
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit({[&](HWND dlg) {
+        EXPECT_EQ(ui_combo_items(dlg, TRIGGER),
+                  (names{"Enemy Close", "Under Fire", "Damage", "Message", "Continue"}));
+        EXPECT_EQ(ui_combo_selected(dlg, TRIGGER), "Enemy Close");
+        EXPECT_EQ(ui_text(dlg, VALUE_LABEL), "Distance (m)");
+        EXPECT_EQ(ui_text(dlg, VALUE), "");
+        EXPECT_TRUE(ui_enabled(dlg, VALUE) && ui_enabled(dlg, NEXT_ORDER));
+        EXPECT_EQ(ui_combo_items(dlg, ORDER_TYPE),
+                  (names{"Halt", "Defend", "Mobile Defence", "March", "Advance", "Barrage"}));
+        EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Halt");
+        EXPECT_EQ(ui_text(dlg, AMOUNT_LABEL), "Duration (secs)");
+        EXPECT_EQ(ui_text(dlg, AMOUNT), "0.000000");
+        EXPECT_TRUE(ui_enabled(dlg, AMOUNT));
+        EXPECT_FALSE(ui_enabled(dlg, DESTINATION) || ui_enabled(dlg, FORMATION));
+        EXPECT_EQ(ui_combo_selected(dlg, TARGET), "NONE");
+        ui_set_text(dlg, VALUE, "12.5m");
+        ui_set_text(dlg, NEXT_ORDER, "abcdefghijklmnopqrst");
+        ui_combo_select(dlg, TARGET, "HQ");
+        ui_set_text(dlg, MESSAGE, "done");
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_EQ(r.trigger, TRIGGER_ENEMY_CLOSE);
     EXPECT_EQ(r.distance, 12.5f);
     EXPECT_STREQ(r.next_order, "abcdefghijklmno");
@@ -127,16 +126,15 @@ TEST_F(contingency_test, order_type_switches_reload_the_section_and_store_its_fi
     r.order.duration = 3;
     r.order.formation_rotation = 15;
     copy_text(r.order.formation, "Line");
-    EXPECT_EQ(edit({[&](HWND dlg) {
-                  EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Barrage");
-                  EXPECT_TRUE(ui_enabled(dlg, DESTINATION));
-                  EXPECT_FALSE(ui_enabled(dlg, FORMATION));
-                  EXPECT_EQ(ui_text(dlg, AMOUNT), "3.000000");
-                  ui_set_text(dlg, AMOUNT, "123.456789");
-                  ui_combo_select(dlg, DESTINATION, "WP2");
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit({[&](HWND dlg) {
+        EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Barrage");
+        EXPECT_TRUE(ui_enabled(dlg, DESTINATION));
+        EXPECT_FALSE(ui_enabled(dlg, FORMATION));
+        EXPECT_EQ(ui_text(dlg, AMOUNT), "3.000000");
+        ui_set_text(dlg, AMOUNT, "123.456789");
+        ui_combo_select(dlg, DESTINATION, "WP2");
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_EQ(r.order.duration, 123.45678f);
     EXPECT_STREQ(r.order.destination, "WP2");
     EXPECT_STREQ(r.order.formation, "Line");
@@ -201,13 +199,12 @@ TEST_F(contingency_test, refused_lists_and_unknown_types_leave_fields_alone) {
     r.order.type = SARGE_ORDER_MARCH;
     copy_text(r.order.destination, "WP9");
     copy_text(r.order.formation, "Box");
-    EXPECT_EQ(edit({[&](HWND dlg) {
-                  for (int id : {DESTINATION, FORMATION, TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
-                  EXPECT_EQ(ui_combo_selected(dlg, TRIGGER), "");
-                  EXPECT_FALSE(ui_enabled(dlg, VALUE));
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit({[&](HWND dlg) {
+        for (int id : {DESTINATION, FORMATION, TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
+        EXPECT_EQ(ui_combo_selected(dlg, TRIGGER), "");
+        EXPECT_FALSE(ui_enabled(dlg, VALUE));
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_STREQ(r.order.destination, "WP9");
     EXPECT_STREQ(r.order.formation, "Box");
     EXPECT_EQ(r.trigger, 9);
@@ -215,10 +212,9 @@ TEST_F(contingency_test, refused_lists_and_unknown_types_leave_fields_alone) {
 
     host.refuse_acquire = false;
     r.order.type = 1;  // no name: shown as Halt, kept
-    EXPECT_EQ(edit({[&](HWND dlg) {
-                  EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Halt");
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit({[&](HWND dlg) {
+        EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Halt");
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_EQ(r.order.type, 1);
 }

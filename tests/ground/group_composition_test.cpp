@@ -30,12 +30,11 @@ TEST_F(composition_test, offers_units_no_other_live_group_holds_and_never_the_gr
     host.free_list(empty->members);
     empty->members = nullptr;  // a group without a member list has no members
     lines available, members;
-    EXPECT_EQ(edit(edited, {[&](HWND dlg) {
-                  available = ui_list_items(dlg, GC_AVAILABLE);
-                  members = ui_list_items(dlg, GC_MEMBERS);
-                  ui_command(dlg, IDCANCEL);
-              }}),
-              0);
+    EXPECT_EQ(0, edit(edited, {[&](HWND dlg) {
+        available = ui_list_items(dlg, GC_AVAILABLE);
+        members = ui_list_items(dlg, GC_MEMBERS);
+        ui_command(dlg, IDCANCEL);
+    }}));
     EXPECT_EQ(available, (lines{"Jeep3 (jeep)", "Mortar2 (mortar)", "Tank2 (tank_t80)"}));
     EXPECT_EQ(members, (lines{"Grunt7 (infantry)"}));
     EXPECT_EQ(host.unit_acquires, 1);
@@ -167,23 +166,21 @@ TEST_F(composition_test, ok_writes_everything_back_and_a_null_member_list_gets_a
 TEST_F(composition_test, group_type_is_minus_one_when_nothing_is_selected) {
     group_record *g = add_group("sarge0", {});
     g->group_type = 99;  // matches no entry: nothing selected
-    EXPECT_EQ(edit(g, {[&](HWND dlg) {
-                  EXPECT_EQ(ui_combo_selected(dlg, GC_TYPE), "");
-                  EXPECT_EQ(ui_combo_items(dlg, GC_TYPE).size(), 43u);
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit(g, {[&](HWND dlg) {
+        EXPECT_EQ(ui_combo_selected(dlg, GC_TYPE), "");
+        EXPECT_EQ(ui_combo_items(dlg, GC_TYPE).size(), 43u);
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_EQ(g->group_type, -1);
     // Text typed into the combo's edit field that matches no entry.
     g->group_type = 4;
-    EXPECT_EQ(edit(g, {[&](HWND dlg) {
-                  HWND edit_field = FindWindowExA(GetDlgItem(dlg, GC_TYPE), nullptr, "Edit", nullptr);
-                  SetWindowTextA(edit_field, "NOT_A_TYPE");
-                  SendMessageA(GetDlgItem(dlg, GC_TYPE), WM_COMMAND, MAKEWPARAM(1001, EN_CHANGE),
-                               reinterpret_cast<LPARAM>(edit_field));
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit(g, {[&](HWND dlg) {
+        HWND edit_field = FindWindowExA(GetDlgItem(dlg, GC_TYPE), nullptr, "Edit", nullptr);
+        SetWindowTextA(edit_field, "NOT_A_TYPE");
+        SendMessageA(GetDlgItem(dlg, GC_TYPE), WM_COMMAND, MAKEWPARAM(1001, EN_CHANGE),
+                     reinterpret_cast<LPARAM>(edit_field));
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_EQ(g->group_type, -1);
 }
 
@@ -252,11 +249,10 @@ TEST_F(composition_test, refused_unit_lists_leave_the_available_list_empty) {
     host.refuse_unit_acquire = false;
     host.refuse_unit_release = true;
     available = {"x"};
-    EXPECT_EQ(edit(g, {[&](HWND dlg) {
-                  available = ui_list_items(dlg, GC_AVAILABLE);
-                  ui_command(dlg, IDCANCEL);
-              }}),
-              0);
+    EXPECT_EQ(0, edit(g, {[&](HWND dlg) {
+        available = ui_list_items(dlg, GC_AVAILABLE);
+        ui_command(dlg, IDCANCEL);
+    }}));
     EXPECT_TRUE(available.empty());
 }
 

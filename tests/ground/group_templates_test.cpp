@@ -59,6 +59,7 @@ constexpr DWORD LIST_ROLE = LBS_SORT | LBS_NOTIFY | LBS_EXTENDEDSEL | LBS_MULTIP
 constexpr DWORD BUTTON_ROLE = BS_TYPEMASK | BS_LEFTTEXT;
 constexpr DWORD COMBO_ROLE = CBS_DROPDOWNLIST | CBS_SORT;
 constexpr DWORD MODAL = DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU;
+constexpr DWORD UNIT_LIST = LBS_SORT | LBS_EXTENDEDSEL | LBS_NOTIFY;
 }  // namespace
 
 TEST(group_templates, titles_sizes_and_control_roles) {
@@ -70,7 +71,7 @@ TEST(group_templates, titles_sizes_and_control_roles) {
         bool ok_is_default;
     };
     const expected dialogs[] = {
-        {127, "Dialog", 457, 237, {{1036, LBS_SORT | LBS_EXTENDEDSEL | LBS_NOTIFY}, {1034, LBS_SORT | LBS_EXTENDEDSEL | LBS_NOTIFY}}, true},
+        {127, "Dialog", 457, 237, {{1036, UNIT_LIST}, {1034, UNIT_LIST}}, true},
         {129, "Orders", 105, 167, {{1054, LBS_SORT | LBS_NOTIFY}}, true},
         {133, "Group List", 212, 276, {{1076, LBS_SORT | LBS_NOTIFY}}, false},
         {135, "Dialog", 462, 241, {{1039, 0}, {1079, 0}}, true},
@@ -79,8 +80,7 @@ TEST(group_templates, titles_sizes_and_control_roles) {
         SCOPED_TRACE(e.dialog);
         dialog_template t = read_template(e.dialog);
         EXPECT_EQ(t.title, e.title);
-        EXPECT_EQ(t.cx, e.cx);
-        EXPECT_EQ(t.cy, e.cy);
+        EXPECT_EQ(std::make_pair(t.cx, t.cy), std::make_pair(e.cx, e.cy));
         EXPECT_EQ(t.style & MODAL, MODAL);
         for (const auto &list : e.list_boxes) EXPECT_EQ(style_of(t, list.first) & LIST_ROLE, list.second) << list.first;
         EXPECT_EQ(style_of(t, IDOK) & BS_TYPEMASK, DWORD(e.ok_is_default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON));
@@ -88,8 +88,8 @@ TEST(group_templates, titles_sizes_and_control_roles) {
     }
     dialog_template composition = read_template(127);
     EXPECT_EQ(style_of(composition, 1081) & COMBO_ROLE, DWORD(CBS_DROPDOWN));
-    EXPECT_EQ(style_of(composition, 1096) & BUTTON_ROLE, DWORD(BS_AUTORADIOBUTTON | BS_LEFTTEXT));
-    EXPECT_EQ(style_of(composition, 1097) & BUTTON_ROLE, DWORD(BS_AUTORADIOBUTTON | BS_LEFTTEXT));
+    for (int radio : {1096, 1097})
+        EXPECT_EQ(style_of(composition, radio) & BUTTON_ROLE, DWORD(BS_AUTORADIOBUTTON | BS_LEFTTEXT));
     EXPECT_EQ(style_of(composition, 1198) & BUTTON_ROLE, DWORD(BS_AUTOCHECKBOX | BS_LEFTTEXT));
     EXPECT_EQ(composition.controls.size(), 24u);
 }

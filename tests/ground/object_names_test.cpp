@@ -118,7 +118,8 @@ TEST_F(object_names_test, null_nodes_and_long_texts_are_safe) {
     add(7, std::string(31, 'n'), std::string(31, 't'));
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
-         EXPECT_EQ(ui_list_items(dlg, LIST), (lines{"7 : " + std::string(31, 'n') + "  (" + std::string(31, 't') + ")"}));
+         const std::string line = "7 : " + std::string(31, 'n') + "  (" + std::string(31, 't') + ")";
+         EXPECT_EQ(ui_list_items(dlg, LIST), lines{line});
          ui_command(dlg, EDIT_NAME);  // without a selection: nothing
      })
         .then("Dialog", press_ok);

@@ -51,30 +51,29 @@ TEST_F(sarge_order_test, each_type_enables_and_stores_its_own_fields) {
     for (const type_case &c : cases) {
         SCOPED_TRACE(c.type);
         sarge_order_record r = make_order(c.type);
-        EXPECT_EQ(edit(r, {[&](HWND dlg) {
-                      EXPECT_EQ(ui_enabled(dlg, DURATION), c.duration);
-                      EXPECT_EQ(ui_enabled(dlg, DURATION_LABEL), c.duration);
-                      EXPECT_EQ(ui_enabled(dlg, DESTINATION), c.destination);
-                      EXPECT_EQ(ui_enabled(dlg, DESTINATION_LABEL), c.destination);
-                      EXPECT_EQ(ui_enabled(dlg, FORMATION), c.formation);
-                      EXPECT_EQ(ui_enabled(dlg, FORMATION_LABEL), c.formation);
-                      EXPECT_FALSE(ui_enabled(dlg, ROTATION) || ui_enabled(dlg, ROTATION_LABEL));
-                      EXPECT_TRUE(ui_enabled(dlg, NAME) && ui_enabled(dlg, MESSAGE) && ui_enabled(dlg, TARGET));
-                      EXPECT_EQ(ui_text(dlg, NAME), "first");
-                      EXPECT_EQ(ui_text(dlg, DURATION), c.duration ? "5.000000" : "");
-                      EXPECT_EQ(ui_text(dlg, ROTATION), c.formation ? "45.000000" : "");
-                      EXPECT_EQ(ui_combo_items(dlg, DESTINATION), (c.destination ? names{"WP1", "WP2", "WP3"} : names{}));
-                      EXPECT_EQ(ui_combo_items(dlg, FORMATION), (c.formation ? names{"Column", "Line", "Wedge"} : names{}));
-                      EXPECT_EQ(ui_combo_selected(dlg, DESTINATION), c.destination ? "WP2" : "");
-                      EXPECT_EQ(ui_combo_selected(dlg, FORMATION), c.formation ? "Wedge" : "");
-                      EXPECT_EQ(ui_combo_items(dlg, TARGET), (names{"HQ", "Alpha", "NONE"}));
-                      ui_set_text(dlg, NAME, "hold the ridge");
-                      ui_set_text(dlg, DURATION, "123.456789");  // nine characters are read
-                      ui_combo_select(dlg, DESTINATION, "WP3");
-                      ui_combo_select(dlg, FORMATION, "Line");
-                      ui_command(dlg, IDOK);
-                  }}),
-                  1);
+        EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
+            EXPECT_EQ(ui_enabled(dlg, DURATION), c.duration);
+            EXPECT_EQ(ui_enabled(dlg, DURATION_LABEL), c.duration);
+            EXPECT_EQ(ui_enabled(dlg, DESTINATION), c.destination);
+            EXPECT_EQ(ui_enabled(dlg, DESTINATION_LABEL), c.destination);
+            EXPECT_EQ(ui_enabled(dlg, FORMATION), c.formation);
+            EXPECT_EQ(ui_enabled(dlg, FORMATION_LABEL), c.formation);
+            EXPECT_FALSE(ui_enabled(dlg, ROTATION) || ui_enabled(dlg, ROTATION_LABEL));
+            EXPECT_TRUE(ui_enabled(dlg, NAME) && ui_enabled(dlg, MESSAGE) && ui_enabled(dlg, TARGET));
+            EXPECT_EQ(ui_text(dlg, NAME), "first");
+            EXPECT_EQ(ui_text(dlg, DURATION), c.duration ? "5.000000" : "");
+            EXPECT_EQ(ui_text(dlg, ROTATION), c.formation ? "45.000000" : "");
+            EXPECT_EQ(ui_combo_items(dlg, DESTINATION), (c.destination ? names{"WP1", "WP2", "WP3"} : names{}));
+            EXPECT_EQ(ui_combo_items(dlg, FORMATION), (c.formation ? names{"Column", "Line", "Wedge"} : names{}));
+            EXPECT_EQ(ui_combo_selected(dlg, DESTINATION), c.destination ? "WP2" : "");
+            EXPECT_EQ(ui_combo_selected(dlg, FORMATION), c.formation ? "Wedge" : "");
+            EXPECT_EQ(ui_combo_items(dlg, TARGET), (names{"HQ", "Alpha", "NONE"}));
+            ui_set_text(dlg, NAME, "hold the ridge");
+            ui_set_text(dlg, DURATION, "123.456789");  // nine characters are read
+            ui_combo_select(dlg, DESTINATION, "WP3");
+            ui_combo_select(dlg, FORMATION, "Line");
+            ui_command(dlg, IDOK);
+        }}));
         EXPECT_EQ(r.type, c.type);
         EXPECT_STREQ(r.name, "hold the ridge");
         EXPECT_EQ(r.duration, c.duration ? 123.45678f : 0.0f);
@@ -89,14 +88,13 @@ TEST_F(sarge_order_test, stale_long_and_unreadable_inputs) {
     host.markers = {long_marker, "WP1"};
     sarge_order_record r = make_order(SARGE_ORDER_BARRAGE);
     copy_text(r.destination, "gone");
-    EXPECT_EQ(edit(r, {[&](HWND dlg) {
-                  // A destination the host no longer lists shows the first one, cut to the field.
-                  EXPECT_EQ(ui_combo_selected(dlg, DESTINATION), long_marker.substr(0, 31));
-                  ui_set_text(dlg, NAME, std::string(45, 'n'));
-                  ui_set_text(dlg, DURATION, "inf");  // not a plain decimal number: kept
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
+        // A destination the host no longer lists shows the first one, cut to the field.
+        EXPECT_EQ(ui_combo_selected(dlg, DESTINATION), long_marker.substr(0, 31));
+        ui_set_text(dlg, NAME, std::string(45, 'n'));
+        ui_set_text(dlg, DURATION, "inf");  // not a plain decimal number: kept
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_EQ(std::string(r.destination), long_marker.substr(0, 31));
     EXPECT_EQ(std::string(r.name), std::string(31, 'n'));
     EXPECT_EQ(r.duration, 5.0f);
@@ -114,36 +112,33 @@ TEST_F(sarge_order_test, message_and_target_are_stored_only_together) {
         {"NONE", "ridge taken", "Alpha", "ridge taken"},  // NONE cannot clear stored ones
     };
     for (const step &s : steps) {
-        EXPECT_EQ(edit(r, {[&](HWND dlg) {
-                      EXPECT_EQ(ui_combo_selected(dlg, TARGET), r.message_target[0] ? r.message_target : "NONE");
-                      EXPECT_EQ(ui_text(dlg, MESSAGE), r.message);
-                      ui_combo_select(dlg, TARGET, s.select);
-                      ui_set_text(dlg, MESSAGE, s.message);
-                      ui_command(dlg, IDOK);
-                  }}),
-                  1);
+        EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
+            EXPECT_EQ(ui_combo_selected(dlg, TARGET), r.message_target[0] ? r.message_target : "NONE");
+            EXPECT_EQ(ui_text(dlg, MESSAGE), r.message);
+            ui_combo_select(dlg, TARGET, s.select);
+            ui_set_text(dlg, MESSAGE, s.message);
+            ui_command(dlg, IDOK);
+        }}));
         EXPECT_STREQ(r.message_target, s.stored_target);
         EXPECT_STREQ(r.message, s.stored_message);
     }
     // A target the host no longer lists shows the first host name, stored on OK.
     copy_text(r.message_target, "Bravo");
-    EXPECT_EQ(edit(r, {[&](HWND dlg) {
-                  EXPECT_EQ(ui_combo_selected(dlg, TARGET), "HQ");
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
+        EXPECT_EQ(ui_combo_selected(dlg, TARGET), "HQ");
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_STREQ(r.message_target, "HQ");
 }
 
 TEST_F(sarge_order_test, cancel_and_close_leave_the_record_untouched) {
     sarge_order_record r = make_order(SARGE_ORDER_ADVANCE);
     const sarge_order_record before = r;
-    EXPECT_EQ(edit(r, {[&](HWND dlg) {
-                  ui_set_text(dlg, NAME, "changed");
-                  ui_combo_select(dlg, FORMATION, "Column");
-                  ui_command(dlg, IDCANCEL);
-              }}),
-              0);
+    EXPECT_EQ(0, edit(r, {[&](HWND dlg) {
+        ui_set_text(dlg, NAME, "changed");
+        ui_combo_select(dlg, FORMATION, "Column");
+        ui_command(dlg, IDCANCEL);
+    }}));
     EXPECT_EQ(edit(r, {[&](HWND dlg) { PostMessageA(dlg, WM_CLOSE, 0, 0); }}), 0);
     EXPECT_EQ(0, std::memcmp(&r, &before, sizeof r));
 }
@@ -153,12 +148,11 @@ TEST_F(sarge_order_test, refused_host_lists_leave_combos_empty_and_fields_alone)
     sarge_order_record r = make_order(SARGE_ORDER_MARCH);
     copy_text(r.message_target, "HQ");
     copy_text(r.message, "old");
-    EXPECT_EQ(edit(r, {[&](HWND dlg) {
-                  for (int id : {FORMATION, DESTINATION, TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
-                  ui_set_text(dlg, MESSAGE, "new");
-                  ui_command(dlg, IDOK);
-              }}),
-              1);
+    EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
+        for (int id : {FORMATION, DESTINATION, TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
+        ui_set_text(dlg, MESSAGE, "new");
+        ui_command(dlg, IDOK);
+    }}));
     EXPECT_STREQ(r.formation, "Wedge");
     EXPECT_STREQ(r.destination, "WP2");
     EXPECT_STREQ(r.message, "old");
