@@ -7,6 +7,7 @@
 #include "ground/order_types.h"
 #include "ground/sarge_order.h"
 #include "util/dialogs.h"
+#include "util/numbers.h"
 
 namespace {
 contingency_order_record *edited = nullptr;
@@ -179,7 +180,7 @@ void confirm(HWND dialog) {
     case TRIGGER_ENEMY_CLOSE:
         // The longest leading number; 0 when there is none.
         record.distance = 0;
-        leading_decimal(value, record.distance);
+        scan_decimal(value, record.distance);
         break;
     case TRIGGER_DAMAGE:
         record.survivors = static_cast<int32_t>(std::strtol(value, nullptr, 10));

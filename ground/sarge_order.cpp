@@ -1,6 +1,5 @@
 #include "ground/sarge_order.h"
 
-#include <cctype>
 #include <cstdlib>
 #include <cstring>
 
@@ -8,6 +7,7 @@
 #include "util/dialogs.h"
 #include "util/dlist.h"
 #include "util/module_flag.h"
+#include "util/numbers.h"
 #include "util/scope.h"
 
 namespace {
@@ -225,40 +225,9 @@ void read_message_and_target(HWND dialog, sarge_order_record &order) {
     copy_text(order.message, text);
 }
 
-bool leading_decimal(const char *text, float &value) {
-    const char *p = text;
-    while (std::isspace(static_cast<unsigned char>(*p))) ++p;
-    const char *start = p;
-    if (*p == '+' || *p == '-') ++p;
-    const char *digits = p;
-    while (std::isdigit(static_cast<unsigned char>(*p))) ++p;
-    bool any = p > digits;
-    if (*p == '.') {
-        const char *fraction = ++p;
-        while (std::isdigit(static_cast<unsigned char>(*p))) ++p;
-        any = any || p > fraction;
-    }
-    if (!any) return false;
-    if (*p == 'e' || *p == 'E') {
-        const char *q = p + 1;
-        if (*q == '+' || *q == '-') ++q;
-        if (std::isdigit(static_cast<unsigned char>(*q))) {
-            while (std::isdigit(static_cast<unsigned char>(*q))) ++q;
-            p = q;
-        }
-    }
-    char number[64];
-    size_t length = static_cast<size_t>(p - start);
-    if (length >= sizeof number) length = sizeof number - 1;
-    std::memcpy(number, start, length);
-    number[length] = '\0';
-    value = std::strtof(number, nullptr);
-    return true;
-}
-
 void scan_float_item(HWND dialog, int id, int chars, float &value) {
     char text[64];
     if (chars > 63) chars = 63;
     get_item_text(dialog, id, text, chars + 1);
-    leading_decimal(text, value);
+    scan_decimal(text, value);
 }

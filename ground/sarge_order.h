@@ -38,11 +38,6 @@ bool read_combo_selection(HWND combo, char *field, size_t size);
 // Stores the message and its target only together: when the selected target
 // is not "NONE" and the message edit is not empty.
 void read_message_and_target(HWND dialog, sarge_order_record &order);
-// Reads the plain decimal number (blanks, sign, digits, point, exponent) that
-// begins `text` into `value`; false, value untouched, when there is none.
-// Only this form counts: the library conversions would also take hexadecimal,
-// "inf" and "nan", which are no durations, distances or angles.
-bool leading_decimal(const char *text, float &value);
 // Reads at most `chars` characters of a control as a "%f" scan does; the value
 // stays unchanged when the text does not begin with a number.
 void scan_float_item(HWND dialog, int id, int chars, float &value);

@@ -8,6 +8,7 @@
 #include "util/dialogs.h"
 #include "util/dlist.h"
 #include "util/module_flag.h"
+#include "util/numbers.h"
 #include "util/settings.h"
 
 namespace {
@@ -57,12 +58,10 @@ bool parse_unsigned(const std::string &text, uint32_t &value) {
     return true;
 }
 
-// A distance is a number alone ("%f%c" reads exactly one item), greater than 0;
-// NaN fails the comparison.
+// A distance is a number with nothing after it, greater than 0.
 bool parse_distance(const std::string &text, float &value) {
-    char after = 0;
-    if (std::sscanf(text.c_str(), "%f%c", &value, &after) != 1) return false;
-    return value > 0.0f;
+    size_t used = scan_decimal(text.c_str(), value);
+    return used > 0 && text[used] == '\0' && value > 0.0f;
 }
 
 void select_reference(HWND combo, const char *name) {
@@ -222,9 +221,7 @@ void read_unsigned(const char *file, const char *folder, int key, uint32_t &valu
 
 void read_float(const char *file, const char *folder, int key, float &value) {
     char text[64];
-    float parsed = 0.0f;
-    if (settings_read(file, folder, SETTINGS_QUERY, key, text, sizeof text) && std::sscanf(text, "%f", &parsed) == 1)
-        value = parsed;
+    if (settings_read(file, folder, SETTINGS_QUERY, key, text, sizeof text)) scan_decimal(text, value);
 }
 
 void write_int(const char *file, const char *folder, int key, uint32_t value) {

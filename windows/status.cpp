@@ -5,6 +5,7 @@
 
 #include "editor/editor.h"
 #include "util/dialogs.h"
+#include "util/numbers.h"
 #include "util/settings.h"
 #include "windows/toolbar.h"
 
@@ -42,7 +43,7 @@ void field_changed(HWND window, int id) {
     char text[64];
     get_item_text(window, id, text);
     float value = 0;
-    if (std::sscanf(text, "%f", &value) != 1) return;
+    if (!scan_decimal(text, value)) return;
     editor_state &state = editor_stored_state();
     if (position >= 0) {
         state.position[position] = value;
