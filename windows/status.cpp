@@ -7,7 +7,7 @@
 #include "util/dialogs.h"
 #include "util/numbers.h"
 #include "util/settings.h"
-#include "windows/toolbar.h"
+#include "windows/floating.h"
 
 namespace {
 constexpr int status_template = 125;
@@ -139,23 +139,16 @@ INT_PTR CALLBACK status_proc(HWND window, UINT message, WPARAM wparam, LPARAM) {
 
 int status_start(HWND owner, const char *settings_file, const char *settings_folder) {
     if (started) return 0;
-    HWND window = CreateDialogParamA(editor_instance(), MAKEINTRESOURCEA(status_template), owner,
-                                     status_proc, 0);
-    if (!window) {
-        show_message_id(21, MESSAGE_ERROR);
-        return 0;
-    }
-    status_window = window;
-    settings_restore_position(settings_file, settings_folder, SETTINGS_STATUS, window);
-    ShowWindow(window, SW_SHOWNORMAL);
+    status_window = floating_window_open(status_template, owner, status_proc, settings_file, settings_folder,
+                                         SETTINGS_STATUS, 21);
+    if (!status_window) return 0;
     started = 1;
     return 1;
 }
 
 int status_tidyup(const char *settings_file, const char *settings_folder) {
     if (!started) return 0;
-    settings_save_position(settings_file, settings_folder, SETTINGS_STATUS, status_window);
-    DestroyWindow(status_window);
+    floating_window_close(status_window, settings_file, settings_folder, SETTINGS_STATUS);
     status_window = nullptr;
     started = 0;
     return 1;

@@ -1,9 +1,8 @@
 #include "windows/toolbar.h"
 
 #include "editor/editor.h"
-#include "util/dialogs.h"
 #include "util/settings.h"
-#include "windows/cursor.h"
+#include "windows/floating.h"
 
 namespace {
 constexpr int toolbar_template = 103;
@@ -42,15 +41,6 @@ void set_button_icons(HWND window) {
 }
 }  // namespace
 
-void take_activation_for_cursor(HWND window) {
-    HWND active = GetActiveWindow();
-    if (!active || active == window) return;
-    if (active == editor_main_window() || is_editor_window(active)) {
-        SetActiveWindow(window);
-        cursor_refresh();
-    }
-}
-
 INT_PTR CALLBACK toolbar_proc(HWND window, UINT message, WPARAM wparam, LPARAM) {
     switch (message) {
     case WM_INITDIALOG:
@@ -72,23 +62,16 @@ INT_PTR CALLBACK toolbar_proc(HWND window, UINT message, WPARAM wparam, LPARAM) 
 
 int toolbar_start(HWND owner, const char *settings_file, const char *settings_folder) {
     if (started) return 0;
-    HWND window = CreateDialogParamA(editor_instance(), MAKEINTRESOURCEA(toolbar_template), owner,
-                                     toolbar_proc, 0);
-    if (!window) {
-        show_message_id(1, MESSAGE_ERROR);
-        return 0;
-    }
-    toolbar = window;
-    settings_restore_position(settings_file, settings_folder, SETTINGS_TOOLBAR, window);
-    ShowWindow(window, SW_SHOWNORMAL);
+    toolbar = floating_window_open(toolbar_template, owner, toolbar_proc, settings_file, settings_folder,
+                                   SETTINGS_TOOLBAR, 1);
+    if (!toolbar) return 0;
     started = 1;
     return 1;
 }
 
 int toolbar_tidyup(const char *settings_file, const char *settings_folder) {
     if (!started) return 0;
-    settings_save_position(settings_file, settings_folder, SETTINGS_TOOLBAR, toolbar);
-    DestroyWindow(toolbar);
+    floating_window_close(toolbar, settings_file, settings_folder, SETTINGS_TOOLBAR);
     toolbar = nullptr;
     started = 0;
     // A new toolbar starts with no button down, so forget the last pressed

@@ -9,8 +9,3 @@ int toolbar_tidyup(const char *settings_file, const char *settings_folder);
 int toolbar_sync_mode(int mode);
 int is_toolbar_window(HWND window);
 INT_PTR CALLBACK toolbar_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-
-// Shared by the toolbar and the Status window: on a cursor message, take the
-// activation from the host's main window or another editor window (never
-// from a modal dialog) and put the mode cursor back.
-void take_activation_for_cursor(HWND window);
