@@ -1,3 +1,6 @@
+#include <utility>
+#include <vector>
+
 #include "tests/windows/windows_test_util.h"
 #include "windows/cursor.h"
 #include "windows/status.h"
@@ -146,4 +149,43 @@ TEST_F(editor_test, toolbar_and_status_take_activation_only_from_editor_windows)
     cursor_message(status);
     EXPECT_EQ(GetActiveWindow(), other);
     DestroyWindow(other);
+}
+
+// A host reading the templates finds each control's class as the platform's
+// predefined ordinal (0x80 button, 0x81 edit, 0x82 static), not as a name.
+TEST(floating_templates, controls_name_their_class_by_ordinal) {
+    struct expected {
+        int dialog;
+        std::vector<std::pair<DWORD, WORD>> id_and_class;
+    };
+    const expected templates[] = {
+        {103, {{1005, 0x80}, {1006, 0x80}, {1009, 0x80}, {1007, 0x80}, {1008, 0x80}}},
+        {125, {{1020, 0x80}, {1017, 0x81}, {1018, 0x81}, {1019, 0x81}, {1021, 0x82}, {1022, 0x82},
+               {1023, 0x82}, {1025, 0x80}, {1024, 0x81}, {1026, 0x81}, {1027, 0x81}, {1028, 0x82},
+               {1029, 0x82}, {1030, 0x82}, {1031, 0x80}, {1032, 0x82}}},
+    };
+    auto skip_text = [](const WORD *p) {
+        if (*p == 0xFFFF) return p + 2;
+        while (*p) ++p;
+        return p + 1;
+    };
+    for (const expected &e : templates) {
+        SCOPED_TRACE(e.dialog);
+        HRSRC found = FindResourceA(editor_instance(), MAKEINTRESOURCEA(e.dialog), MAKEINTRESOURCEA(5));
+        ASSERT_NE(found, nullptr);
+        const auto *base = static_cast<const BYTE *>(LockResource(LoadResource(editor_instance(), found)));
+        const auto *p = reinterpret_cast<const WORD *>(base);
+        ASSERT_EQ(p[1], 0xFFFF);  // extended template
+        ASSERT_EQ(p[8], e.id_and_class.size());
+        p = skip_text(skip_text(skip_text(p + 13)));  // menu, class, title
+        p = skip_text(p + 3);                         // point size, weight, italic and charset, face
+        for (const auto &control : e.id_and_class) {
+            p = reinterpret_cast<const WORD *>(base + ((reinterpret_cast<const BYTE *>(p) - base + 3) & ~3));
+            EXPECT_EQ(*reinterpret_cast<const DWORD *>(p + 10), control.first);
+            EXPECT_EQ(p[12], 0xFFFF) << control.first;
+            EXPECT_EQ(p[13], control.second) << control.first;
+            p = skip_text(skip_text(p + 12));  // class, caption
+            p = reinterpret_cast<const WORD *>(reinterpret_cast<const BYTE *>(p + 1) + *p);
+        }
+    }
 }
