@@ -10,6 +10,7 @@ namespace {
 struct template_control {
     DWORD style;
     int id;
+    bool class_ordinal;  // a predefined class stored as its ordinal, as hosts expect
 };
 struct dialog_template {
     DWORD style = 0;
@@ -41,7 +42,8 @@ dialog_template read_template(int id) {
     for (int i = 0; i < head->cdit; ++i) {
         p = reinterpret_cast<const WORD *>((reinterpret_cast<uintptr_t>(p) + 3) & ~uintptr_t{3});
         const auto *item = reinterpret_cast<const DLGITEMTEMPLATE *>(p);
-        t.controls.push_back({item->style, static_cast<short>(item->id)});
+        t.controls.push_back({item->style, static_cast<short>(item->id),
+                              *reinterpret_cast<const WORD *>(item + 1) == 0xFFFF});
         p = skip_field(skip_field(reinterpret_cast<const WORD *>(item + 1)));  // class, caption
         p = reinterpret_cast<const WORD *>(reinterpret_cast<const BYTE *>(p + 1) + *p);
     }
@@ -92,4 +94,7 @@ TEST(group_templates, titles_sizes_and_control_roles) {
         EXPECT_EQ(style_of(composition, radio) & BUTTON_ROLE, DWORD(BS_AUTORADIOBUTTON | BS_LEFTTEXT));
     EXPECT_EQ(style_of(composition, 1198) & BUTTON_ROLE, DWORD(BS_AUTOCHECKBOX | BS_LEFTTEXT));
     EXPECT_EQ(composition.controls.size(), 24u);
+    for (int dialog : {127, 129, 130, 131, 132, 133, 135, 136})
+        for (const template_control &c : read_template(dialog).controls)
+            EXPECT_TRUE(c.class_ordinal) << dialog << " control " << c.id;
 }
