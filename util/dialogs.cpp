@@ -95,10 +95,11 @@ void set_item_text_f(HWND dialog, int id, const char *format, ...) {
 
 int get_item_text(HWND dialog, int id, char *buffer, int size) {
     if (size <= 0) return 0;
+    // Only the text and its terminator are written: the bytes after them in
+    // a record's field stay as the host left them.
     buffer[0] = '\0';
     HWND control = GetDlgItem(dialog, id);
     int length = control ? GetWindowTextA(control, buffer, size) : 0;
-    buffer[size - 1] = '\0';
     return length < 0 ? 0 : length;
 }
 
