@@ -1,3 +1,5 @@
+#include <cstring>
+
 #include "ground/sarge_order.h"
 #include "tests/ground/group_fixture.h"
 #include "util/dialogs.h"
@@ -98,6 +100,15 @@ TEST_F(sarge_order_test, stale_long_and_unreadable_inputs) {
     EXPECT_EQ(std::string(r.destination), long_marker.substr(0, 31));
     EXPECT_EQ(std::string(r.name), std::string(31, 'n'));
     EXPECT_EQ(r.duration, 5.0f);
+
+    // A shorter name writes only its text and terminator: the rest of the
+    // field (here unterminated host bytes) stays as it was.
+    std::memset(r.name, 'x', sizeof r.name);
+    EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
+        ui_set_text(dlg, NAME, "ab");
+        ui_command(dlg, IDOK);
+    }}));
+    EXPECT_EQ(std::string(r.name, sizeof r.name), std::string("ab") + '\0' + std::string(29, 'x'));
 }
 
 TEST_F(sarge_order_test, message_and_target_are_stored_only_together) {
