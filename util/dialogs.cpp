@@ -75,15 +75,6 @@ LRESULT combo_add_string_id(HWND combo, int id) { return add_string_id(combo, CB
 
 LRESULT list_add_string_id(HWND list, int id) { return add_string_id(list, LB_ADDSTRING, id); }
 
-void set_window_text_f(HWND window, const char *format, ...) {
-    char text[512];
-    va_list args;
-    va_start(args, format);
-    std::vsnprintf(text, sizeof text, format, args);
-    va_end(args);
-    SetWindowTextA(window, text);
-}
-
 void set_item_text_f(HWND dialog, int id, const char *format, ...) {
     char text[512];
     va_list args;

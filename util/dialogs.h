@@ -33,11 +33,6 @@ void set_item_text_f(HWND dialog, int id, const char *format, ...)
     __attribute__((format(printf, 3, 4)))
 #endif
     ;
-void set_window_text_f(HWND window, const char *format, ...)
-#if defined(__GNUC__)
-    __attribute__((format(printf, 2, 3)))
-#endif
-    ;
 
 // Reads a control's text into buffer (size bytes including the NUL); always
 // NUL-terminated, empty when the control is missing.
