@@ -24,6 +24,7 @@ struct host_app {
     is_editor_window_fn is_editor = nullptr;
 
     alloc_tracker memory;
+    bool editor_running = false;  // between a successful editor_init and editor_tidyup
     editor_state state{};  // what the host believes the editor shows
     std::string settings_folder;
     std::string settings_file = "editor.ini";

@@ -70,6 +70,15 @@ HMENU build_menus() {
     return bar;
 }
 
+// Tidies the editor up while its owner window still exists, so that the
+// window positions can be read and saved.
+void shut_down_editor() {
+    host_app &a = app();
+    if (!a.tidyup || !a.editor_running) return;
+    a.editor_running = false;
+    a.log("editor_tidyup: " + std::to_string(a.tidyup()));
+}
+
 LRESULT CALLBACK main_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     host_app &a = app();
     switch (message) {
@@ -87,6 +96,7 @@ LRESULT CALLBACK main_proc(HWND window, UINT message, WPARAM wparam, LPARAM lpar
     case WM_COMMAND: {
         int id = LOWORD(wparam);
         if (id == command_exit) {
+            shut_down_editor();
             DestroyWindow(window);
             return 0;
         }
@@ -98,6 +108,7 @@ LRESULT CALLBACK main_proc(HWND window, UINT message, WPARAM wparam, LPARAM lpar
         break;
     }
     case WM_CLOSE:
+        shut_down_editor();
         DestroyWindow(window);
         return 0;
     case WM_DESTROY:
@@ -253,11 +264,18 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) 
     setup.settings_file = a.settings_file.c_str();
     setup.settings_folder = a.settings_folder.c_str();
     setup.ops = sample_host_ops();
-    a.log("editor_init: " + std::to_string(a.init(setup)) + " (settings in " + a.settings_folder + a.settings_file + ")");
+    a.editor_running = a.init(setup) != 0;
+    a.log(std::string("editor_init: ") + (a.editor_running ? "1" : "0") + " (settings in " + a.settings_folder +
+          a.settings_file + ")");
+    // A game reports its state every frame; the first changed report fills the
+    // Status window.
+    a.state.host_word = 1;
+    a.send_state();
 
     int exit_code = 0;
     if (!a.gallery.empty()) {
         run_tour();
+        shut_down_editor();
         DestroyWindow(a.main_window);
     } else {
         HACCEL accelerators =
@@ -269,7 +287,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) 
             DispatchMessageA(&msg);
         }
     }
-    a.log("editor_tidyup: " + std::to_string(a.tidyup()));
+    shut_down_editor();
     std::string report = a.memory.report();
     std::printf("%s", report.c_str());
     std::fflush(stdout);
