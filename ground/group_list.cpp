@@ -145,8 +145,10 @@ int group_list_start() { return module.start(); }
 int group_list_tidyup() { return module.tidyup(); }
 
 int list_groups(dlist_node *groups) {
-    // One set of module state: a nested second list is refused.
-    if (open) return 0;
+    // One set of module state: a nested second list is refused. So is a list
+    // asked for while Group Composition is up: it would ignore every command
+    // (see on_command) and could never be closed.
+    if (open || group_composition_open()) return 0;
     group_list = groups;
     if (!module.started) return 0;
     open = true;

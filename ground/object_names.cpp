@@ -11,6 +11,7 @@
 namespace {
 module_flag module;
 dlist_node *listed = nullptr;
+bool open = false;
 
 // Edit Name: the field being edited and its text when the dialog opened.
 char *name_field = nullptr;
@@ -142,7 +143,9 @@ int object_names_start() { return module.start(); }
 int object_names_tidyup() { return module.tidyup(); }
 
 int edit_name(HWND owner, char *name32) {
-    if (!name32) return 0;
+    // One field at a time: a nested edit (a host request from inside this
+    // dialog) would leave the outer one without its field.
+    if (!name32 || name_field) return 0;
     // The field may arrive unterminated; the saved copy and the edit hold at
     // most its first 31 characters.
     name_field = name32;
@@ -156,10 +159,13 @@ int edit_name(HWND owner, char *name32) {
 }
 
 int list_object_names(dlist_node *list) {
-    if (!module.started) return 0;
+    // One set of module state: a nested second list is refused.
+    if (!module.started || open) return 0;
+    open = true;
     listed = list;
     INT_PTR result = DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(TEMPLATE_OBJECT_NAMES),
                                      editor_main_window(), object_names_proc, 0);
     listed = nullptr;
+    open = false;
     return result == 1 ? 1 : 0;
 }

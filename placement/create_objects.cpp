@@ -21,6 +21,9 @@ module_flag module;
 create_objects_memory memory = default_memory;
 // The record being edited; copied back over the host's record only on OK.
 create_objects_record working;
+// A nested second dialog (a host request from inside this one) is refused:
+// it would overwrite the working copy that the first one writes back.
+bool open = false;
 
 // Whole-text read of a control: the designer may type far more than any field
 // holds, and the numeric rules must judge all of it, not a cut prefix.
@@ -340,14 +343,16 @@ INT_PTR CALLBACK create_objects_proc(HWND dialog, UINT message, WPARAM wparam, L
 }
 
 int create_objects_dialog(create_objects_record *record) {
-    if (!module.started || !record) return 0;
+    if (!module.started || !record || open) return 0;
     if ((record->preset & CO_NUMBER) && record->number > 10) {
         show_message_id(12, MESSAGE_ERROR);
         return 0;
     }
     std::memcpy(&working, record, sizeof working);
+    open = true;
     INT_PTR result = DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(IDD_CREATE_OBJECTS), editor_main_window(),
                                      create_objects_proc, 0);
+    open = false;
     if (result != 1) return 0;
     std::memcpy(record, &working, sizeof working);
     return 1;

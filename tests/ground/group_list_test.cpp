@@ -129,3 +129,18 @@ TEST_F(group_list_test, no_dialog_opens_before_the_editor_starts) {
     EXPECT_EQ(list_object_names(nullptr), 0);
     free_group_working_copy(working);
 }
+
+// A host asking for the list while Group Composition is up would get a list
+// that ignores every command and can never close.
+TEST_F(group_list_test, refused_while_group_composition_is_up) {
+    group_record *g = add_group("sarge0", {});
+    int nested = -1;
+    ui_driver d;
+    d.then("Dialog", [&](HWND dlg) {
+        nested = nested_call([&] { return editor_window(REQUEST_GROUP_LIST, groups_arg(), 0); });
+        ui_command(dlg, IDCANCEL);
+    });
+    EXPECT_EQ(editor_window(REQUEST_GROUP_COMPOSITION, reinterpret_cast<uintptr_t>(g), groups_arg()), 0);
+    EXPECT_DRIVER_OK(d);
+    EXPECT_EQ(nested, 0);
+}

@@ -125,3 +125,26 @@ TEST_F(object_names_test, null_nodes_and_long_texts_are_safe) {
         .then("Dialog", press_ok);
     EXPECT_EQ(request(d, {0}), 1);
 }
+
+// Host requests from inside the dialogs: a second list or Edit Name is
+// refused, and the open Edit Name still writes its own field.
+TEST_F(object_names_test, nested_list_and_edit_name_are_refused) {
+    add(7, "alpha", "tank");
+    char other[32] = "beta";
+    int nested_edit = -1, nested_list = -1;
+    ui_driver d;
+    d.then("Dialog", rename_first)
+        .then("", [&](HWND dlg) {
+            nested_edit = nested_call([&] { return edit_name(host.main_window, other); });
+            nested_list = nested_call(
+                [&] { return editor_window(REQUEST_OBJECT_NAMES, reinterpret_cast<uintptr_t>(list), 0); });
+            ui_set_text(dlg, NAME, "gamma");
+            ui_command(dlg, IDOK);
+        })
+        .then("Dialog", press_ok);
+    EXPECT_EQ(request(d), 1);
+    EXPECT_EQ(nested_edit, 0);
+    EXPECT_EQ(nested_list, 0);
+    EXPECT_STREQ(entries[0]->name, "gamma");
+    EXPECT_STREQ(other, "beta");
+}

@@ -333,3 +333,19 @@ TEST_F(create_objects_test, reference_list_failures_leave_it_empty) {
     EXPECT_EQ(host.refused_releases.size(), 2u);
 }
 }  // namespace
+
+// A host request from inside the dialog is refused: a second dialog would
+// overwrite the working copy that the first one writes back.
+TEST_F(create_objects_test, nested_request_is_refused) {
+    ASSERT_EQ(start_editor(), 1);
+    create_objects_record inner{0, 0, 5, "inner", 7, 0, 0, 0, 0, 0, 0};
+    int nested = -1;
+    run(1, [&](HWND dlg) {
+        nested = nested_call(
+            [&] { return editor_window(REQUEST_CREATE_OBJECTS, reinterpret_cast<uintptr_t>(&inner), 0); });
+        ui_command(dlg, IDOK);
+    });
+    EXPECT_EQ(nested, 0);
+    EXPECT_EQ(record.type, 0);
+    EXPECT_EQ(record.number, 0u);
+}
