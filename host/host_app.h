@@ -11,17 +11,11 @@
 
 #include "editor_api.h"
 #include "host/alloc_tracker.h"
+#include "host/editor_exports.h"
 
-struct host_app {
+struct host_app : editor_exports {
     HWND main_window = nullptr;
     HWND log_view = nullptr;
-    HMODULE dll = nullptr;
-    editor_init_fn init = nullptr;
-    editor_tidyup_fn tidyup = nullptr;
-    editor_update_fn update = nullptr;
-    editor_win_messages_fn win_messages = nullptr;
-    editor_window_fn window = nullptr;
-    is_editor_window_fn is_editor = nullptr;
 
     alloc_tracker memory;
     bool editor_running = false;  // between a successful editor_init and editor_tidyup

@@ -18,24 +18,6 @@ std::vector<host_feature> &registry() {
     return features;
 }
 
-template <class F>
-F export_of(HMODULE dll, const char *name) {
-    // Through void * because FARPROC's type says nothing of the real signature.
-    return reinterpret_cast<F>(reinterpret_cast<void *>(GetProcAddress(dll, name)));
-}
-
-bool load_editor(host_app &a) {
-    a.dll = LoadLibraryA("editor.dll");
-    if (!a.dll) return false;
-    a.init = export_of<editor_init_fn>(a.dll, "editor_init");
-    a.tidyup = export_of<editor_tidyup_fn>(a.dll, "editor_tidyup");
-    a.update = export_of<editor_update_fn>(a.dll, "editor_update");
-    a.win_messages = export_of<editor_win_messages_fn>(a.dll, "editor_win_messages");
-    a.window = export_of<editor_window_fn>(a.dll, "editor_window");
-    a.is_editor = export_of<is_editor_window_fn>(a.dll, "is_editor_window");
-    return a.init && a.tidyup && a.update && a.win_messages && a.window && a.is_editor;
-}
-
 // Keyboard shortcuts named in feature labels after a tab, "Ctrl+<key>".
 std::vector<ACCEL> &shortcuts() {
     static std::vector<ACCEL> table;
@@ -251,7 +233,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) 
     ShowWindow(a.main_window, show);
     UpdateWindow(a.main_window);
 
-    if (!load_editor(a)) {
+    if (!a.load()) {
         MessageBoxA(a.main_window, "editor.dll could not be loaded, or lacks an export.", "Editor Host", MB_ICONHAND);
         return 2;
     }
@@ -292,6 +274,6 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) 
     std::printf("%s", report.c_str());
     std::fflush(stdout);
     if (!a.memory.problems().empty()) exit_code = 1;
-    FreeLibrary(a.dll);
+    a.unload();
     return exit_code;
 }

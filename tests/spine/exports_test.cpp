@@ -1,39 +1,19 @@
 // The six exports of the built editor.dll, loaded as a host loads it.
 #include <string>
 
+#include "host/editor_exports.h"
 #include "tests/support/test_host.h"
 
 namespace {
-template <class F>
-F export_of(HMODULE dll, const char *name) {
-    return reinterpret_cast<F>(reinterpret_cast<void *>(GetProcAddress(dll, name)));
-}
-
-class dll_test : public editor_test {
+class dll_test : public editor_test, protected editor_exports {
 protected:
-    HMODULE dll = nullptr;
-    editor_init_fn init = nullptr;
-    editor_tidyup_fn tidyup = nullptr;
-    editor_update_fn update = nullptr;
-    editor_win_messages_fn win_messages = nullptr;
-    editor_window_fn window = nullptr;
-    is_editor_window_fn is_editor = nullptr;
-
     void SetUp() override {
         editor_test::SetUp();
-        dll = LoadLibraryA("editor.dll");
-        ASSERT_NE(dll, nullptr) << "editor.dll must be beside the test program";
-        init = export_of<editor_init_fn>(dll, "editor_init");
-        tidyup = export_of<editor_tidyup_fn>(dll, "editor_tidyup");
-        update = export_of<editor_update_fn>(dll, "editor_update");
-        win_messages = export_of<editor_win_messages_fn>(dll, "editor_win_messages");
-        window = export_of<editor_window_fn>(dll, "editor_window");
-        is_editor = export_of<is_editor_window_fn>(dll, "is_editor_window");
-        ASSERT_TRUE(init && tidyup && update && win_messages && window && is_editor);
+        ASSERT_TRUE(load()) << "editor.dll with all six exports must be beside the test program";
     }
     void TearDown() override {
         if (tidyup) tidyup();
-        if (dll) FreeLibrary(dll);
+        unload();
         editor_test::TearDown();
     }
     // Every export but editor_init answers 0 and shows nothing.
