@@ -5,6 +5,7 @@
 #include "ground/group_list.h"
 #include "ground/object_names.h"
 #include "placement/create_objects.h"
+#include "resources/string_ids.h"
 #include "util/dialogs.h"
 #include "windows/save_file.h"
 
@@ -42,14 +43,14 @@ int group_list(uintptr_t groups, uintptr_t) { return list_groups(reinterpret_cas
 // Indexed by request code. A null entry is a dialog not built yet: it answers 0.
 const request_handler handlers[] = {
     message_box,                                 // REQUEST_MESSAGE_BOX
-    fixed_message<6, MESSAGE_QUESTION>,          // REQUEST_CONFIRM_QUIT
-    fixed_message<7, MESSAGE_ERROR>,             // REQUEST_INVALID_SELECTION
-    fixed_message<8, MESSAGE_ERROR>,             // REQUEST_NOTHING_SELECTED
+    fixed_message<IDS_CONFIRM_QUIT, MESSAGE_QUESTION>, // REQUEST_CONFIRM_QUIT
+    fixed_message<IDS_INVALID_SELECTION, MESSAGE_ERROR>, // REQUEST_INVALID_SELECTION
+    fixed_message<IDS_NOTHING_SELECTED, MESSAGE_ERROR>, // REQUEST_NOTHING_SELECTED
     create_objects,                              // REQUEST_CREATE_OBJECTS
     save_file<0>,                                // REQUEST_SAVE_WORLD_FILE
     save_file<1>,                                // REQUEST_SAVE_MISSION_FILE
-    fixed_message<20, MESSAGE_QUESTION>,         // REQUEST_CONFIRM_DELETE
-    fixed_message<25, MESSAGE_ERROR>,            // REQUEST_UNMATCHED_GROUP
+    fixed_message<IDS_CONFIRM_DELETE, MESSAGE_QUESTION>, // REQUEST_CONFIRM_DELETE
+    fixed_message<IDS_UNMATCHED_GROUP, MESSAGE_ERROR>, // REQUEST_UNMATCHED_GROUP
     group_composition,                           // REQUEST_GROUP_COMPOSITION
     object_names,                                // REQUEST_OBJECT_NAMES
     group_list,                                  // REQUEST_GROUP_LIST

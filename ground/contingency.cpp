@@ -1,38 +1,26 @@
+// The contingency order (template 136, titled "Sarge Order"): a trigger with
+// its value, the next order, and the sarge order it fires. Both type combos
+// rebuild their section when the designer changes them.
 #include "ground/contingency.h"
 
 #include <cstdlib>
-#include <cstring>
 
-#include "editor/editor.h"
 #include "ground/order_types.h"
 #include "ground/sarge_order.h"
+#include "resources/ground_ids.h"
+#include "resources/string_ids.h"
+#include "util/controls.h"
 #include "util/dialogs.h"
+#include "util/modal.h"
 #include "util/numbers.h"
+#include "util/text.h"
 
 namespace {
+module_flag module{1};  // always started: the dialog has no flag of its own
 contingency_order_record *edited = nullptr;
 // The choices of the two type combos; written to the record only by OK.
 int32_t chosen_trigger = 0;
 int32_t chosen_order_type = 0;
-
-enum {
-    TEMPLATE_CONTINGENCY = 136,
-    IDC_TRIGGER_TYPE = 1067,
-    IDC_NEXT_ORDER_LABEL = 1082,
-    IDC_NEXT_ORDER = 1083,
-    IDC_VALUE_LABEL = 1084,
-    IDC_VALUE = 1085,
-    IDC_ORDER_TYPE = 1075,
-    IDC_AMOUNT_LABEL = 1100,  // duration, or formation rotation
-    IDC_AMOUNT = 1101,
-    STRING_SURVIVORS = 36,
-    STRING_DISTANCE = 37,
-    STRING_TRIGGER_STRING = 43,
-    STRING_DURATION = 44,
-    STRING_ROTATION = 45
-};
-
-void enable(HWND dialog, int id, bool on) { EnableWindow(GetDlgItem(dialog, id), on ? TRUE : FALSE); }
 
 void set_label(HWND dialog, int id, int string_id) {
     char text[64];
@@ -51,17 +39,17 @@ void select_by_name(HWND combo, int string_id) {
 // outside the table.
 int value_label_of(int32_t trigger) {
     switch (trigger) {
-    case TRIGGER_ENEMY_CLOSE: return STRING_DISTANCE;
-    case TRIGGER_DAMAGE: return STRING_SURVIVORS;
+    case TRIGGER_ENEMY_CLOSE: return IDS_LABEL_DISTANCE;
+    case TRIGGER_DAMAGE: return IDS_LABEL_SURVIVORS;
     case TRIGGER_MESSAGE:
-    case TRIGGER_CONTINUE: return STRING_TRIGGER_STRING;
+    case TRIGGER_CONTINUE: return IDS_LABEL_TRIGGER_STRING;
     default: return 0;
     }
 }
 
 void refresh_trigger(HWND dialog) {
     const contingency_order_record &record = *edited;
-    HWND combo = GetDlgItem(dialog, IDC_TRIGGER_TYPE);
+    HWND combo = GetDlgItem(dialog, IDC_CT_TRIGGER);
     SendMessageA(combo, CB_RESETCONTENT, 0, 0);
     for (int type = TRIGGER_ENEMY_CLOSE; type <= TRIGGER_CONTINUE; ++type) {
         LRESULT index = combo_add_string_id(combo, trigger_name_table[type]);
@@ -80,48 +68,40 @@ void refresh_trigger(HWND dialog) {
     }
 
     if (chosen_trigger == -1) {
-        enable(dialog, IDC_NEXT_ORDER_LABEL, false);
-        enable(dialog, IDC_NEXT_ORDER, false);
-        enable(dialog, IDC_VALUE_LABEL, false);
-        enable(dialog, IDC_VALUE, false);
+        enable_controls(dialog, {IDC_CT_NEXT_ORDER_LABEL, IDC_CT_NEXT_ORDER, IDC_CT_VALUE_LABEL, IDC_CT_VALUE},
+                        false);
         return;
     }
-    enable(dialog, IDC_NEXT_ORDER, true);
-    show_field(dialog, IDC_NEXT_ORDER, record.next_order, sizeof record.next_order);
-    enable(dialog, IDC_NEXT_ORDER_LABEL, true);
-    enable(dialog, IDC_VALUE_LABEL, true);
+    enable_control(dialog, IDC_CT_NEXT_ORDER, true);
+    show_field(dialog, IDC_CT_NEXT_ORDER, record.next_order);
+    enable_controls(dialog, {IDC_CT_NEXT_ORDER_LABEL, IDC_CT_VALUE_LABEL}, true);
 
     int label = value_label_of(chosen_trigger);
     if (label == 0) {
-        SetDlgItemTextA(dialog, IDC_VALUE_LABEL, "");
-        enable(dialog, IDC_VALUE_LABEL, false);
-        enable(dialog, IDC_VALUE, false);
+        SetDlgItemTextA(dialog, IDC_CT_VALUE_LABEL, "");
+        enable_controls(dialog, {IDC_CT_VALUE_LABEL, IDC_CT_VALUE}, false);
         return;
     }
-    set_label(dialog, IDC_VALUE_LABEL, label);
-    enable(dialog, IDC_VALUE, true);
+    set_label(dialog, IDC_CT_VALUE_LABEL, label);
+    enable_control(dialog, IDC_CT_VALUE, true);
     if (chosen_trigger != record.trigger) {
-        SetDlgItemTextA(dialog, IDC_VALUE, "");
+        SetDlgItemTextA(dialog, IDC_CT_VALUE, "");
     } else if (chosen_trigger == TRIGGER_ENEMY_CLOSE) {
-        set_item_text_f(dialog, IDC_VALUE, "%f", static_cast<double>(record.distance));
+        set_item_text_f(dialog, IDC_CT_VALUE, "%f", static_cast<double>(record.distance));
     } else if (chosen_trigger == TRIGGER_DAMAGE) {
-        set_item_text_f(dialog, IDC_VALUE, "%d", static_cast<int>(record.survivors));
+        set_item_text_f(dialog, IDC_CT_VALUE, "%d", static_cast<int>(record.survivors));
     } else {
-        show_field(dialog, IDC_VALUE, record.trigger_string, sizeof record.trigger_string);
+        show_field(dialog, IDC_CT_VALUE, record.trigger_string);
     }
 }
-
-bool uses_duration(int32_t type) { return type == SARGE_ORDER_HALT || type == SARGE_ORDER_BARRAGE; }
-bool uses_formation(int32_t type) { return type == SARGE_ORDER_ADVANCE || type == SARGE_ORDER_MARCH; }
-bool uses_destination(int32_t type) { return uses_formation(type) || type == SARGE_ORDER_BARRAGE; }
 
 // Reloads the whole order section from the record for the chosen order type.
 void refresh_order(HWND dialog) {
     const sarge_order_record &order = edited->order;
     const int32_t t = chosen_order_type;
-    show_field(dialog, IDC_ORDER_NAME, order.name, sizeof order.name);
+    show_field(dialog, IDC_ORDER_NAME, order.name);
 
-    HWND types = GetDlgItem(dialog, IDC_ORDER_TYPE);
+    HWND types = GetDlgItem(dialog, IDC_CT_ORDER_TYPE);
     SendMessageA(types, CB_RESETCONTENT, 0, 0);
     for (int row = 0; row < ORDER_TYPE_ROWS; ++row) {
         LRESULT index = combo_add_string_id(types, order_type_table[row].string_id);
@@ -130,51 +110,70 @@ void refresh_order(HWND dialog) {
     int row = order_type_row_of(t);
     select_by_name(types, order_type_table[row < 0 ? 0 : row].string_id);
 
-    enable(dialog, IDC_AMOUNT_LABEL, false);
-    enable(dialog, IDC_AMOUNT, false);
+    enable_controls(dialog, {IDC_CT_AMOUNT_LABEL, IDC_CT_AMOUNT}, false);
 
-    HWND destination = GetDlgItem(dialog, IDC_ORDER_DESTINATION);
     bool with_destination = uses_destination(t);
-    enable(dialog, IDC_ORDER_DESTINATION_LABEL, with_destination);
-    enable(dialog, IDC_ORDER_DESTINATION, with_destination);
+    enable_controls(dialog, {IDC_ORDER_DESTINATION_LABEL, IDC_ORDER_DESTINATION}, with_destination);
     if (with_destination) {
+        HWND destination = GetDlgItem(dialog, IDC_ORDER_DESTINATION);
         fill_destination_combo(destination);
-        select_combo_field(destination, order.destination, sizeof order.destination);
+        select_combo_field(destination, order.destination);
     }
 
-    HWND formation = GetDlgItem(dialog, IDC_ORDER_FORMATION);
     bool with_formation = uses_formation(t);
-    enable(dialog, IDC_ORDER_FORMATION_LABEL, with_formation);
-    enable(dialog, IDC_ORDER_FORMATION, with_formation);
+    enable_controls(dialog, {IDC_ORDER_FORMATION_LABEL, IDC_ORDER_FORMATION}, with_formation);
     if (with_formation) {
-        enable(dialog, IDC_AMOUNT_LABEL, true);
-        set_label(dialog, IDC_AMOUNT_LABEL, STRING_ROTATION);
-        enable(dialog, IDC_AMOUNT, true);
-        set_item_text_f(dialog, IDC_AMOUNT, "%f", static_cast<double>(order.formation_rotation));
+        enable_control(dialog, IDC_CT_AMOUNT_LABEL, true);
+        set_label(dialog, IDC_CT_AMOUNT_LABEL, IDS_LABEL_ROTATION);
+        enable_control(dialog, IDC_CT_AMOUNT, true);
+        set_item_text_f(dialog, IDC_CT_AMOUNT, "%f", static_cast<double>(order.formation_rotation));
+        HWND formation = GetDlgItem(dialog, IDC_ORDER_FORMATION);
         fill_formation_combo(formation);
-        select_combo_field(formation, order.formation, sizeof order.formation);
+        select_combo_field(formation, order.formation);
     }
     if (uses_duration(t)) {
-        enable(dialog, IDC_AMOUNT_LABEL, true);
-        set_label(dialog, IDC_AMOUNT_LABEL, STRING_DURATION);
-        enable(dialog, IDC_AMOUNT, true);
-        set_item_text_f(dialog, IDC_AMOUNT, "%f", static_cast<double>(order.duration));
+        enable_control(dialog, IDC_CT_AMOUNT_LABEL, true);
+        set_label(dialog, IDC_CT_AMOUNT_LABEL, IDS_LABEL_DURATION);
+        enable_control(dialog, IDC_CT_AMOUNT, true);
+        set_item_text_f(dialog, IDC_CT_AMOUNT, "%f", static_cast<double>(order.duration));
     }
 
     HWND target = GetDlgItem(dialog, IDC_ORDER_MESSAGE_TARGET);
     fill_message_target_combo(target);
     if (order.message_target[0]) {
-        select_combo_field(target, order.message_target, sizeof order.message_target);
-        show_field(dialog, IDC_ORDER_MESSAGE, order.message, sizeof order.message);
+        select_combo_field(target, order.message_target);
+        show_field(dialog, IDC_ORDER_MESSAGE, order.message);
     }
 }
 
-void confirm(HWND dialog) {
+void on_init(HWND dialog) {
+    refresh_trigger(dialog);
+    refresh_order(dialog);
+    centre_dialog(dialog);
+    ShowWindow(dialog, SW_SHOW);
+}
+
+// The two type combos rebuild their section on a selection change.
+bool on_command(HWND dialog, int id, int code) {
+    if (code != CBN_SELCHANGE || (id != IDC_CT_TRIGGER && id != IDC_CT_ORDER_TYPE)) return false;
+    LPARAM data = 0;
+    bool selected = combo_selected_data(GetDlgItem(dialog, id), data);
+    if (id == IDC_CT_TRIGGER) {
+        if (selected) chosen_trigger = static_cast<int32_t>(data);
+        refresh_trigger(dialog);
+    } else {
+        if (selected && data >= 0 && data < ORDER_TYPE_ROWS) chosen_order_type = order_type_table[data].type;
+        refresh_order(dialog);
+    }
+    return true;
+}
+
+dialog_end on_ok(HWND dialog) {
     contingency_order_record &record = *edited;
-    get_item_text(dialog, IDC_NEXT_ORDER, record.next_order);
+    get_item_text(dialog, IDC_CT_NEXT_ORDER, record.next_order);
 
     char value[32];
-    get_item_text(dialog, IDC_VALUE, value);
+    get_item_text(dialog, IDC_CT_VALUE, value);
     record.trigger = chosen_trigger;
     switch (chosen_trigger) {
     case TRIGGER_ENEMY_CLOSE:
@@ -197,77 +196,27 @@ void confirm(HWND dialog) {
     const int32_t t = chosen_order_type;
     order.type = t;
     if (uses_duration(t))
-        scan_float_item(dialog, IDC_AMOUNT, 9, order.duration);
+        scan_float_item(dialog, IDC_CT_AMOUNT, 9, order.duration);
     else
         order.duration = 0;
     if (uses_formation(t)) {
-        read_combo_selection(GetDlgItem(dialog, IDC_ORDER_FORMATION), order.formation, sizeof order.formation);
-        scan_float_item(dialog, IDC_AMOUNT, 31, order.formation_rotation);
+        read_combo_selection(GetDlgItem(dialog, IDC_ORDER_FORMATION), order.formation);
+        scan_float_item(dialog, IDC_CT_AMOUNT, 31, order.formation_rotation);
     }
-    if (uses_destination(t))
-        read_combo_selection(GetDlgItem(dialog, IDC_ORDER_DESTINATION), order.destination,
-                             sizeof order.destination);
+    if (uses_destination(t)) read_combo_selection(GetDlgItem(dialog, IDC_ORDER_DESTINATION), order.destination);
     get_item_text(dialog, IDC_ORDER_NAME, order.name);
     read_message_and_target(dialog, order);
+    return END_CONFIRMED;
 }
 
-void selection_changed(HWND dialog, int id) {
-    HWND combo = GetDlgItem(dialog, id);
-    LRESULT selected = SendMessageA(combo, CB_GETCURSEL, 0, 0);
-    if (id == IDC_TRIGGER_TYPE) {
-        if (selected >= 0) chosen_trigger = static_cast<int32_t>(SendMessageA(combo, CB_GETITEMDATA, selected, 0));
-        refresh_trigger(dialog);
-        return;
-    }
-    if (selected >= 0) {
-        LRESULT row = SendMessageA(combo, CB_GETITEMDATA, selected, 0);
-        if (row >= 0 && row < ORDER_TYPE_ROWS) chosen_order_type = order_type_table[row].type;
-    }
-    refresh_order(dialog);
-}
-
-INT_PTR CALLBACK contingency_proc(HWND dialog, UINT message, WPARAM wparam, LPARAM) {
-    switch (message) {
-    case WM_INITDIALOG:
-        refresh_trigger(dialog);
-        refresh_order(dialog);
-        centre_dialog(dialog);
-        ShowWindow(dialog, SW_SHOW);
-        return TRUE;
-    case WM_COMMAND: {
-        int id = LOWORD(wparam);
-        int code = HIWORD(wparam);
-        if (code == CBN_SELCHANGE && (id == IDC_TRIGGER_TYPE || id == IDC_ORDER_TYPE)) {
-            selection_changed(dialog, id);
-            return TRUE;
-        }
-        if (code != BN_CLICKED) break;
-        if (id == IDOK) {
-            confirm(dialog);
-            EndDialog(dialog, 1);
-            return TRUE;
-        }
-        if (id == IDCANCEL) {
-            EndDialog(dialog, 0);
-            return TRUE;
-        }
-        break;
-    }
-    case WM_CLOSE:
-        EndDialog(dialog, 0);
-        return TRUE;
-    }
-    return FALSE;
-}
+const dialog_class contingency_dialog = {on_init, on_command, on_ok, nullptr, TRUE};
 }  // namespace
 
 int edit_contingency_order(HWND owner, contingency_order_record *order) {
-    if (!order) return 0;
+    modal_session session(module);
+    if (!session || !order) return 0;
     edited = order;
     chosen_trigger = order->trigger;
     chosen_order_type = order->order.type;
-    INT_PTR result = DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(TEMPLATE_CONTINGENCY), owner,
-                                     contingency_proc, 0);
-    edited = nullptr;
-    return result == 1 ? 1 : 0;
+    return session.run(IDD_CONTINGENCY, owner, dialog_proc<contingency_dialog>);
 }

@@ -1,40 +1,28 @@
+// Group Composition (template 127, request 9): the name, members, type and
+// appearance of one ground group, edited on a working copy that OK writes
+// back into the host's record.
 #include "ground/group_composition.h"
 
-#include <cstdio>
+#include <unordered_map>
 
 #include "editor/editor.h"
 #include "ground/group_orders.h"
 #include "ground/group_record.h"
 #include "ground/object_names.h"
+#include "resources/ground_ids.h"
+#include "util/controls.h"
 #include "util/dialogs.h"
-#include "util/module_flag.h"
+#include "util/host_list.h"
+#include "util/host_memory.h"
+#include "util/modal.h"
 #include "util/scope.h"
 
 namespace {
-enum {
-    IDD_GROUP_COMPOSITION = 127,
-    IDC_AVAILABLE = 1036,
-    IDC_MEMBERS = 1034,
-    IDC_ADD = 1038,
-    IDC_REMOVE = 1037,
-    IDC_NAME = 1075,
-    IDC_RENAME = 1074,
-    IDC_TYPE = 1081,
-    IDC_PERCENT = 1087,
-    IDC_PLUS = 1090,
-    IDC_MINUS = 1091,
-    IDC_BY_GROUP = 1096,
-    IDC_BY_UNIT = 1097,
-    IDC_TARGET_PLAYER = 1198,
-    IDC_EDIT_ORDERS = 1086,
-};
-
 module_flag module;
 group_working_copy working{};
 group_record *edited = nullptr;
 dlist *group_list = nullptr;
 int member_lines = 0;
-bool open = false;
 
 bool has_member(const dlist *members, int32_t id) {
     for (unit_entry *member : dlist_values<unit_entry>(members))
@@ -54,30 +42,22 @@ bool unit_taken(const unit_entry &unit) {
     return has_member(working.members, unit.id);
 }
 
-bool add_unit_line(HWND list, const unit_entry &unit) {
+void add_unit_line(HWND list, const unit_entry &unit) {
     char line[UNIT_LINE_SIZE];
     format_pair_line(line, unit.name, unit.type_name);
-    LRESULT index = SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line));
-    if (index < 0) return false;
-    SendMessageA(list, LB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(unit.id));
-    return true;
+    list_add_line(list, line, static_cast<LPARAM>(unit.id));
 }
 
 bool fill_available_units(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_AVAILABLE);
+    HWND list = GetDlgItem(dialog, IDC_GC_AVAILABLE);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
-    dlist *units = nullptr;
-    int acquired = group_list ? host().host_unit_list(&units, HOST_LIST_ACQUIRE)
-                              : host().host_unit_list_standalone(&units, HOST_LIST_ACQUIRE);
-    if (!acquired) {
-        SendMessageA(list, LB_RESETCONTENT, 0, 0);
-        return false;
-    }
-    for (unit_entry *unit : dlist_values<unit_entry>(units)) {
+    // Both kinds of list go back through the unit list operation.
+    held_list units(group_list ? host().host_unit_list : host().host_unit_list_standalone, host().host_unit_list);
+    if (!units) return false;
+    for (unit_entry *unit : dlist_values<unit_entry>(units.get())) {
         if (unit && !unit_taken(*unit)) add_unit_line(list, *unit);
     }
-    // Both kinds of list go back through the same operation.
-    if (!host().host_unit_list(&units, HOST_LIST_RELEASE)) {
+    if (!units.release()) {
         SendMessageA(list, LB_RESETCONTENT, 0, 0);
         return false;
     }
@@ -85,96 +65,88 @@ bool fill_available_units(HWND dialog) {
 }
 
 void fill_group_members(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_MEMBERS);
+    HWND list = GetDlgItem(dialog, IDC_GC_MEMBERS);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
     member_lines = 0;
     for (unit_entry *member : dlist_values<unit_entry>(working.members)) {
-        if (member && add_unit_line(list, *member)) ++member_lines;
+        if (!member) continue;
+        char line[UNIT_LINE_SIZE];
+        format_pair_line(line, member->name, member->type_name);
+        if (list_add_line(list, line, static_cast<LPARAM>(member->id)) >= 0) ++member_lines;
     }
 }
 
 void show_appearance(HWND dialog) {
     int percent = static_cast<int>(working.appearance & APPEAR_PERCENT_MASK);
-    set_item_text_f(dialog, IDC_PERCENT, "%d", percent);
-    BOOL choose = percent != 100;
-    EnableWindow(GetDlgItem(dialog, IDC_BY_GROUP), choose);
-    EnableWindow(GetDlgItem(dialog, IDC_BY_UNIT), choose);
-    if (working.appearance & APPEAR_BY_GROUP) SendDlgItemMessageA(dialog, IDC_BY_GROUP, BM_SETCHECK, BST_CHECKED, 0);
-    if (working.appearance & APPEAR_BY_UNIT) SendDlgItemMessageA(dialog, IDC_BY_UNIT, BM_SETCHECK, BST_CHECKED, 0);
+    set_item_text_f(dialog, IDC_GC_PERCENT, "%d", percent);
+    enable_controls(dialog, {IDC_GC_BY_GROUP, IDC_GC_BY_UNIT}, percent != 100);
+    if (working.appearance & APPEAR_BY_GROUP) CheckDlgButton(dialog, IDC_GC_BY_GROUP, BST_CHECKED);
+    if (working.appearance & APPEAR_BY_UNIT) CheckDlgButton(dialog, IDC_GC_BY_UNIT, BST_CHECKED);
 }
 
-void show_name(HWND dialog) { SetDlgItemTextA(dialog, IDC_NAME, working.name); }
+void show_name(HWND dialog) { SetDlgItemTextA(dialog, IDC_GC_NAME, working.name); }
 
 void fill_group_types(HWND dialog) {
-    HWND combo = GetDlgItem(dialog, IDC_TYPE);
+    HWND combo = GetDlgItem(dialog, IDC_GC_TYPE);
     SendMessageA(combo, CB_RESETCONTENT, 0, 0);
     for (int type = 0; type < UNIT_TYPE_COUNT; ++type) {
-        LRESULT index = SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(unit_type_names[type]));
-        if (index < 0) continue;
-        SendMessageA(combo, CB_SETITEMDATA, static_cast<WPARAM>(index), type);
-        if (type == working.group_type) SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+        LRESULT index = combo_add_line(combo, unit_type_names[type], type);
+        if (index >= 0 && type == working.group_type) SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
     }
 }
 
-// An index array of `count` entries in host memory, for LB_GETSELITEMS. It is
-// asked for even when `count` is 0 (an empty host list), so the host sees
-// count x 4 bytes come and go on every Add-> and <-Remove.
-struct index_array {
-    uint32_t count;
-    int *indices;
-    explicit index_array(uint32_t n) : count(n), indices(static_cast<int *>(host().host_alloc(n * 4))) {}
-    ~index_array() { release(); }
-    index_array(const index_array &) = delete;
-    index_array &operator=(const index_array &) = delete;
-    void release() {
-        if (indices) host().host_free(indices, count * 4);
-        indices = nullptr;
+// Add->: the selected available units join the front of the members, the
+// last selected first. Every copy is made before any joins, so the members
+// change whole or not at all (a failed allocation adds nothing, silently, as
+// every failed host operation does).
+void join_selected(const dlist *units, const selected_lines &selection) {
+    dlist *joining = dlist_create();
+    if (!joining) return;
+    // The host's units by id, the first of each id, found once for the whole selection.
+    std::unordered_map<int32_t, const unit_entry *> by_id;
+    for (unit_entry *unit : dlist_values<unit_entry>(units))
+        if (unit) by_id.emplace(unit->id, unit);
+    bool whole = true;
+    selection.for_each_data([&](LRESULT data) {
+        auto found = by_id.find(static_cast<int32_t>(data));
+        // A unit that left the host's list since the last refill is skipped.
+        if (!whole || found == by_id.end()) return;
+        unit_entry *member = copy_unit(*found->second);
+        dlist_node *first = joining->next;
+        if (member) dlist_push_front(joining, dlist_value(member));
+        if (joining->next == first) {
+            host_delete(member);
+            whole = false;
+        }
+    });
+    if (!whole) {
+        destroy_entry_list<unit_entry>(joining);
+        return;
     }
-    // Calls act(id) with the item data of each selected line, in ascending order.
-    template <class F>
-    void for_selected_ids(HWND list, F act) {
-        if (!indices) return;
-        LRESULT selected = SendMessageA(list, LB_GETSELITEMS, count, reinterpret_cast<LPARAM>(indices));
-        if (selected == LB_ERR || selected == 0) return;
-        // The indices came from the list itself, so the item data is always an
-        // id (-1 included: it is a valid id, not an error here).
-        for (LRESULT i = 0; i < selected; ++i)
-            act(static_cast<int32_t>(SendMessageA(list, LB_GETITEMDATA, static_cast<WPARAM>(indices[i]), 0)));
-    }
-};
+    dlist_splice(joining, working.members);  // the new members, then the old ones
+    dlist_splice(working.members, joining);
+    dlist_destroy(joining);
+}
 
 void add_selected_units(HWND dialog) {
-    dlist *units = nullptr;
-    if (!host().host_unit_list(&units, HOST_LIST_ACQUIRE)) return;
-    auto release = on_scope_exit([&] { host().host_unit_list(&units, HOST_LIST_RELEASE); });
+    held_list units(host().host_unit_list);
+    if (!units) return;
     // Sized by the host's list, which the available lines were made from.
-    index_array selection(units ? dlist_count(units) : 0);
-    selection.for_selected_ids(GetDlgItem(dialog, IDC_AVAILABLE), [&](int32_t id) {
-        for (unit_entry *unit : dlist_values<unit_entry>(units)) {
-            if (!unit || unit->id != id) continue;
-            unit_entry *member = copy_unit(*unit);
-            if (!member) return;
-            dlist_node *first = working.members->next;
-            dlist_push_front(working.members, dlist_value(member));
-            if (working.members->next == first) host().host_free(member, sizeof(unit_entry));
-            return;
-        }
-        // A unit that left the host's list since the last refill is skipped.
-    });
+    selected_lines selection(GetDlgItem(dialog, IDC_GC_AVAILABLE), units.get() ? dlist_count(units.get()) : 0);
+    if (selection.count() > 0) join_selected(units.get(), selection);
     fill_group_members(dialog);
     fill_available_units(dialog);
-    selection.release();
 }
 
 void remove_selected_members(HWND dialog) {
     if (member_lines == 0) return;
-    index_array selection(static_cast<uint32_t>(member_lines));
-    selection.for_selected_ids(GetDlgItem(dialog, IDC_MEMBERS), [&](int32_t id) {
+    selected_lines selection(GetDlgItem(dialog, IDC_GC_MEMBERS), static_cast<uint32_t>(member_lines));
+    selection.for_each_data([](LRESULT data) {
         for (dlist_node *node : dlist_nodes(working.members)) {
             auto *member = reinterpret_cast<unit_entry *>(node->value);
-            if (!member || member->id != id) continue;
+            if (!member || member->id != static_cast<int32_t>(data)) continue;
             dlist_remove_node(node);
-            host().host_free(member, sizeof(unit_entry));
+            host_delete(member);
             return;
         }
     });
@@ -186,110 +158,80 @@ void on_init(HWND dialog) {
     fill_available_units(dialog);
     fill_group_members(dialog);
     show_name(dialog);
-    EnableWindow(GetDlgItem(dialog, IDC_RENAME), TRUE);
-    if (working.target_player_only) SendDlgItemMessageA(dialog, IDC_TARGET_PLAYER, BM_SETCHECK, BST_CHECKED, 0);
+    enable_control(dialog, IDC_GC_RENAME, true);
+    if (working.target_player_only) CheckDlgButton(dialog, IDC_GC_TARGET_PLAYER, BST_CHECKED);
     show_appearance(dialog);
     fill_group_types(dialog);
     centre_dialog(dialog);
     ShowWindow(dialog, SW_SHOW);
 }
 
-void on_ok(HWND dialog) {
-    LRESULT index = SendDlgItemMessageA(dialog, IDC_TYPE, CB_GETCURSEL, 0, 0);
-    working.group_type =
-        index == CB_ERR ? -1 : static_cast<int32_t>(SendDlgItemMessageA(dialog, IDC_TYPE, CB_GETITEMDATA, index, 0));
-    store_group(*edited, working);
-    free_group_working_copy(working);
-    EndDialog(dialog, 1);
-}
-
-void on_command(HWND dialog, int id, int code) {
-    switch (id) {
+bool on_command(HWND dialog, int id, int code) {
     // The appearance controls act on any notification.
-    case IDC_PLUS:
+    switch (id) {
+    case IDC_GC_PLUS:
         if ((working.appearance & APPEAR_PERCENT_MASK) <= 90) working.appearance += 10;
         show_appearance(dialog);
-        return;
-    case IDC_MINUS:
+        return true;
+    case IDC_GC_MINUS:
         if ((working.appearance & APPEAR_PERCENT_MASK) > 10) working.appearance -= 10;
         show_appearance(dialog);
-        return;
-    case IDC_BY_GROUP:
+        return true;
+    case IDC_GC_BY_GROUP:
         working.appearance = (working.appearance & ~0xE00u) | APPEAR_BY_GROUP;
-        return;
-    case IDC_BY_UNIT:
+        return true;
+    case IDC_GC_BY_UNIT:
         working.appearance = (working.appearance & ~0xD00u) | APPEAR_BY_UNIT;
-        return;
+        return true;
     default:
         break;
     }
-    if (code != BN_CLICKED) return;
+    if (code != BN_CLICKED) return false;
     switch (id) {
-    case IDC_TARGET_PLAYER:
+    case IDC_GC_TARGET_PLAYER:
         working.target_player_only = working.target_player_only == 0 ? 1 : 0;
-        break;
-    case IDC_RENAME:
+        return true;
+    case IDC_GC_RENAME:
         edit_name(dialog, working.name);
         show_name(dialog);
-        break;
-    case IDC_EDIT_ORDERS:
+        return true;
+    case IDC_GC_EDIT_ORDERS:
         edit_group_orders(dialog, &working);
-        break;
-    case IDC_ADD:
+        return true;
+    case IDC_GC_ADD:
         add_selected_units(dialog);
-        break;
-    case IDC_REMOVE:
+        return true;
+    case IDC_GC_REMOVE:
         remove_selected_members(dialog);
-        break;
-    case IDOK:
-        on_ok(dialog);
-        break;
-    case IDCANCEL:
-        free_group_working_copy(working);
-        EndDialog(dialog, 0);
-        break;
+        return true;
     default:
-        break;
+        return false;
     }
 }
 
-INT_PTR CALLBACK group_composition_proc(HWND dialog, UINT message, WPARAM wparam, LPARAM) {
-    switch (message) {
-    case WM_INITDIALOG:
-        on_init(dialog);
-        return TRUE;
-    case WM_COMMAND:
-        on_command(dialog, LOWORD(wparam), HIWORD(wparam));
-        return TRUE;
-    case WM_CLOSE:
-        free_group_working_copy(working);
-        EndDialog(dialog, 0);
-        return TRUE;
-    default:
-        return FALSE;
-    }
+dialog_end on_ok(HWND dialog) {
+    LPARAM type = -1;
+    if (!combo_selected_data(GetDlgItem(dialog, IDC_GC_TYPE), type)) type = -1;
+    working.group_type = static_cast<int32_t>(type);
+    // A record that cannot be written whole stays as it was, and so does the dialog.
+    return store_group(*edited, working) ? END_CONFIRMED : KEEP_OPEN;
 }
+
+const dialog_class group_composition_dialog = {on_init, on_command, on_ok, nullptr, TRUE};
 }  // namespace
 
 int group_composition_start() { return module.start(); }
 int group_composition_tidyup() { return module.tidyup(); }
 
-bool group_composition_open() { return open; }
+bool group_composition_open() { return module.open; }
 
 int edit_group(group_record *group, dlist_node *groups) {
-    if (!module.started || !group) return 0;
-    // One working copy: a nested second edit is refused rather than clobbering it.
-    if (open) return 0;
+    modal_session session(module);
+    if (!session || !group) return 0;
+    // A working copy that cannot be made whole: the dialog does not open.
+    if (!load_group(working, *group)) return 0;
+    auto free_copy = on_scope_exit([] { free_group_working_copy(working); });
     edited = group;
     group_list = groups;
-    if (!load_group(working, *group)) return 0;
-    open = true;
-    INT_PTR result = DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(IDD_GROUP_COMPOSITION),
-                                     editor_main_window(), group_composition_proc, 0);
-    // Every way out of the dialog frees the copy; this covers a dialog that never ran.
-    free_group_working_copy(working);
-    open = false;
-    edited = nullptr;
-    group_list = nullptr;
-    return result == 1 ? 1 : 0;
+    return session.run(IDD_GROUP_COMPOSITION, editor_main_window(), dialog_proc<group_composition_dialog>);
 }

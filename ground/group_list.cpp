@@ -1,3 +1,6 @@
+// Group List (template 133, request 11): every ground group that is not
+// removed. Add, Edit and Remove act on the host's list at once; OK and
+// Cancel only decide the result.
 #include "ground/group_list.h"
 
 #include <climits>
@@ -6,16 +9,17 @@
 
 #include "editor/editor.h"
 #include "ground/group_composition.h"
+#include "resources/ground_ids.h"
+#include "util/controls.h"
 #include "util/dialogs.h"
 #include "util/dlist.h"
-#include "util/module_flag.h"
+#include "util/host_memory.h"
+#include "util/modal.h"
+#include "util/text.h"
 
 namespace {
-enum { IDD_GROUP_LIST = 133, IDC_GROUPS = 1076, IDC_EDIT = 3, IDC_REMOVE = 4, IDC_ADD = 5 };
-
 module_flag module;
 dlist *group_list = nullptr;
-bool open = false;
 
 bool name_taken(const dlist *groups, const char *name) {
     for (group_record *group : dlist_values<group_record>(groups))
@@ -24,24 +28,17 @@ bool name_taken(const dlist *groups, const char *name) {
 }
 
 void fill_group_list(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_GROUPS);
+    HWND list = GetDlgItem(dialog, IDC_GL_GROUPS);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
     for (group_record *group : dlist_values<group_record>(group_list)) {
         if (!group || group->status == GROUP_STATUS_REMOVED) continue;
         char name[32];
-        std::memcpy(name, group->name, sizeof name);
-        name[31] = '\0';
-        LRESULT index = SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
-        if (index >= 0) SendMessageA(list, LB_SETITEMDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(group));
+        copy_field(name, group->name);
+        list_add_line(list, name, reinterpret_cast<LPARAM>(group));
     }
 }
 
-group_record *selected_group(HWND dialog) {
-    LRESULT index = SendDlgItemMessageA(dialog, IDC_GROUPS, LB_GETCURSEL, 0, 0);
-    if (index == LB_ERR) return nullptr;
-    LRESULT data = SendDlgItemMessageA(dialog, IDC_GROUPS, LB_GETITEMDATA, static_cast<WPARAM>(index), 0);
-    return data == LB_ERR ? nullptr : reinterpret_cast<group_record *>(data);
-}
+group_record *selected_group(HWND dialog) { return list_selected<group_record>(GetDlgItem(dialog, IDC_GL_GROUPS)); }
 
 void edit_selected(HWND dialog) {
     group_record *group = selected_group(dialog);
@@ -61,75 +58,58 @@ void remove_selected(HWND dialog) {
 void add_group(HWND dialog) {
     // Without a host list there is nowhere to keep a new group.
     if (!group_list) return;
-    auto *group = static_cast<group_record *>(host().host_alloc(sizeof(group_record)));
+    auto *group = host_new<group_record>();
     if (!group) return;
-    std::memset(group, 0, sizeof *group);
     automatic_group_name(group_list, group->name);
     group->order_count = 0;
     group->status = GROUP_STATUS_ADDED;
     group->members = dlist_create();
     group->target_player_only = 0;
-    if (!edit_group(group, group_list) || !dlist_push_back(group_list, dlist_value(group))) {
+    // A group without its member list, or one no list node can be had for,
+    // is never listed: the Add adds nothing.
+    if (!group->members || !edit_group(group, group_list) || !dlist_push_back(group_list, dlist_value(group))) {
         // Group Composition stores members only on OK, so a cancelled group's
         // list holds no entries; after a failed append it may.
-        for (dlist_node *node : dlist_nodes(group->members)) {
-            if (node->value) host().host_free(reinterpret_cast<unit_entry *>(node->value), sizeof(unit_entry));
-        }
-        dlist_destroy(group->members);
-        host().host_free(group, sizeof *group);
+        destroy_entry_list<unit_entry>(group->members);
+        host_delete(group);
         return;
     }
     fill_group_list(dialog);
 }
 
-void on_command(HWND dialog, int id, int code) {
+void on_init(HWND dialog) {
+    fill_group_list(dialog);
+    SendDlgItemMessageA(dialog, IDC_GL_GROUPS, LB_SETCURSEL, 0, 0);
+    centre_dialog(dialog);
+    ShowWindow(dialog, SW_SHOW);
+}
+
+bool on_command(HWND dialog, int id, int code) {
     // Group Composition is owned by the main window, so this dialog stays
-    // enabled under it; a second edit must not start over its one working copy.
-    if (group_composition_open()) return;
-    if (id == IDC_GROUPS && code == LBN_DBLCLK) {
+    // enabled under it; nothing here (not even OK, Cancel or the close box)
+    // may act over its one working copy.
+    if (group_composition_open()) return true;
+    if (id == IDC_GL_GROUPS && code == LBN_DBLCLK) {
         edit_selected(dialog);
-        return;
+        return true;
     }
-    if (code != BN_CLICKED) return;
+    if (code != BN_CLICKED) return false;
     switch (id) {
-    case IDC_EDIT:
+    case IDC_GL_EDIT:
         edit_selected(dialog);
-        break;
-    case IDC_REMOVE:
+        return true;
+    case IDC_GL_REMOVE:
         remove_selected(dialog);
-        break;
-    case IDC_ADD:
+        return true;
+    case IDC_GL_ADD:
         add_group(dialog);
-        break;
-    case IDOK:
-        EndDialog(dialog, 1);
-        break;
-    case IDCANCEL:
-        EndDialog(dialog, 0);
-        break;
+        return true;
     default:
-        break;
+        return false;
     }
 }
 
-INT_PTR CALLBACK group_list_proc(HWND dialog, UINT message, WPARAM wparam, LPARAM) {
-    switch (message) {
-    case WM_INITDIALOG:
-        fill_group_list(dialog);
-        SendDlgItemMessageA(dialog, IDC_GROUPS, LB_SETCURSEL, 0, 0);
-        centre_dialog(dialog);
-        ShowWindow(dialog, SW_SHOW);
-        return TRUE;
-    case WM_COMMAND:
-        on_command(dialog, LOWORD(wparam), HIWORD(wparam));
-        return TRUE;
-    case WM_CLOSE:
-        if (!group_composition_open()) EndDialog(dialog, 0);
-        return TRUE;
-    default:
-        return FALSE;
-    }
-}
+const dialog_class group_list_dialog = {on_init, on_command, nullptr, nullptr, TRUE};
 }  // namespace
 
 void automatic_group_name(const dlist_node *groups, char (&name)[32]) {
@@ -145,15 +125,11 @@ int group_list_start() { return module.start(); }
 int group_list_tidyup() { return module.tidyup(); }
 
 int list_groups(dlist_node *groups) {
-    // One set of module state: a nested second list is refused. So is a list
-    // asked for while Group Composition is up: it would ignore every command
-    // (see on_command) and could never be closed.
-    if (open || group_composition_open()) return 0;
+    // A list asked for while Group Composition is up is refused too: it would
+    // ignore every command and could never be closed.
+    if (group_composition_open()) return 0;
+    modal_session session(module);
+    if (!session) return 0;
     group_list = groups;
-    if (!module.started) return 0;
-    open = true;
-    INT_PTR result =
-        DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(IDD_GROUP_LIST), editor_main_window(), group_list_proc, 0);
-    open = false;
-    return result == 1 ? 1 : 0;
+    return session.run(IDD_GROUP_LIST, editor_main_window(), dialog_proc<group_list_dialog>);
 }

@@ -3,7 +3,8 @@
 #include <cstdio>
 #include <cstring>
 
-#include "editor/editor.h"
+#include "util/host_memory.h"
+#include "util/text.h"
 
 const char *const unit_type_names[UNIT_TYPE_COUNT] = {
     "NONE",
@@ -21,59 +22,50 @@ const char *const unit_type_names[UNIT_TYPE_COUNT] = {
     "ENEMY_ALPINE_INF",
 };
 
-
-void copy_name(char (&dest)[32], const char (&src)[32]) {
-    const void *end = std::memchr(src, '\0', sizeof src);
-    size_t length = end ? static_cast<size_t>(static_cast<const char *>(end) - src) : sizeof src - 1;
-    std::memcpy(dest, src, length);
-    dest[length] = '\0';
+namespace {
+// A list holding a copy of each of the first `count` slots (the count is the
+// host's; the slots bound it whatever it says); null, with nothing left, when
+// any block cannot be had.
+template <class T, size_t N>
+dlist *copy_slots(const T (&slots)[N], int32_t count) {
+    dlist *list = dlist_create();
+    if (!list) return nullptr;
+    for (int32_t i = 0; i < count && i < static_cast<int32_t>(N); ++i) {
+        if (!append_entry(list, host_copy(slots[i]))) {
+            destroy_entry_list<T>(list);
+            return nullptr;
+        }
+    }
+    return list;
 }
+
+// Copies a list into the record's slots, whole records, at most N of them;
+// the number written.
+template <class T, size_t N>
+int32_t store_slots(T (&slots)[N], const dlist *list) {
+    int32_t count = 0;
+    for (T *entry : dlist_values<T>(list)) {
+        if (count == static_cast<int32_t>(N)) break;
+        std::memcpy(&slots[count++], entry, sizeof(T));
+    }
+    return count;
+}
+}  // namespace
 
 void format_pair_line(char (&line)[UNIT_LINE_SIZE], const char *name, const char *detail) {
     std::snprintf(line, sizeof line, "%.31s (%.31s)", name, detail);
 }
 
-unit_entry *copy_unit(const unit_entry &unit) {
-    auto *copy = static_cast<unit_entry *>(host().host_alloc(sizeof(unit_entry)));
-    if (!copy) return nullptr;
-    // Zeroed first so the bytes after each name are the same on every copy.
-    std::memset(copy, 0, sizeof *copy);
-    copy_name(copy->name, unit.name);
-    copy_name(copy->type_name, unit.type_name);
-    copy->id = unit.id;
-    return copy;
-}
-
-void clear_members(dlist *members) { free_entries<unit_entry>(members); }
-
 bool load_group(group_working_copy &copy, const group_record &record) {
     copy = group_working_copy{};
-    copy_name(copy.name, record.name);
+    copy_field(copy.name, record.name);
     // Each list is made just before it is filled: orders, contingencies, members.
-    copy.orders = dlist_create();
-    if (!copy.orders) return false;
-    // The counts are the host's; the slots bound them whatever they say.
-    int orders = record.order_count < GROUP_MAX_ORDERS ? record.order_count : GROUP_MAX_ORDERS;
-    for (int i = 0; i < orders; ++i) {
-        append_copy(copy.orders, host_copy(record.orders[i]));
-    }
-    copy.contingencies = dlist_create();
-    if (!copy.contingencies) {
-        free_group_working_copy(copy);
-        return false;
-    }
-    int contingencies =
-        record.contingency_count < GROUP_MAX_CONTINGENCIES ? record.contingency_count : GROUP_MAX_CONTINGENCIES;
-    for (int i = 0; i < contingencies; ++i) {
-        append_copy(copy.contingencies, host_copy(record.contingencies[i]));
-    }
-    copy.members = dlist_create();
+    copy.orders = copy_slots(record.orders, record.order_count);
+    if (copy.orders) copy.contingencies = copy_slots(record.contingencies, record.contingency_count);
+    if (copy.contingencies) copy.members = copy_entries<unit_entry>(record.members, copy_unit);
     if (!copy.members) {
         free_group_working_copy(copy);
         return false;
-    }
-    for (unit_entry *unit : dlist_values<unit_entry>(record.members)) {
-        if (unit) append_copy(copy.members, copy_unit(*unit));
     }
     copy.status = record.status;
     copy.appearance = record.appearance;
@@ -82,37 +74,25 @@ bool load_group(group_working_copy &copy, const group_record &record) {
     return true;
 }
 
-void store_group(group_record &record, const group_working_copy &copy) {
+bool store_group(group_record &record, const group_working_copy &copy) {
+    dlist *members = copy_entries<unit_entry>(copy.members, copy_unit);
+    if (!members) return false;
+
     record.status = copy.status;
     record.appearance = copy.appearance;
     record.target_player_only = copy.target_player_only;
-    copy_name(record.name, copy.name);
+    copy_field(record.name, copy.name);
     record.group_type = copy.group_type;
 
-    int count = 0;
-    for (sarge_order_record *order : dlist_values<sarge_order_record>(copy.orders)) {
-        if (count == GROUP_MAX_ORDERS) break;
-        std::memcpy(&record.orders[count++], order, sizeof *order);
-    }
-    record.order_count = count;
-
+    record.order_count = store_slots(record.orders, copy.orders);
     for (contingency_order_record &slot : record.contingencies) slot.trigger = 0;
-    count = 0;
-    for (contingency_order_record *order : dlist_values<contingency_order_record>(copy.contingencies)) {
-        if (count == GROUP_MAX_CONTINGENCIES) break;
-        std::memcpy(&record.contingencies[count++], order, sizeof *order);
-    }
-    record.contingency_count = count;
+    record.contingency_count = store_slots(record.contingencies, copy.contingencies);
 
-    if (record.members) {
-        clear_members(record.members);
-    } else {
-        record.members = dlist_create();
-        if (!record.members) return;
-    }
-    for (unit_entry *unit : dlist_values<unit_entry>(copy.members)) {
-        append_copy(record.members, copy_unit(*unit));
-    }
+    if (record.members)
+        replace_entries<unit_entry>(record.members, members);
+    else
+        record.members = members;
+    return true;
 }
 
 void free_group_working_copy(group_working_copy &copy) {

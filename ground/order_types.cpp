@@ -1,21 +1,23 @@
 #include "ground/order_types.h"
 
+#include "resources/string_ids.h"
+
 const order_type_row order_type_table[ORDER_TYPE_ROWS] = {
-    {SARGE_ORDER_HALT, 26},            // "Halt"
-    {SARGE_ORDER_DEFEND, 27},          // "Defend"
-    {SARGE_ORDER_MOBILE_DEFENCE, 28},  // "Mobile Defence"
-    {SARGE_ORDER_MARCH, 29},           // "March"
-    {SARGE_ORDER_ADVANCE, 30},         // "Advance"
-    {SARGE_ORDER_BARRAGE, 31},         // "Barrage"
+    {SARGE_ORDER_HALT, IDS_ORDER_HALT},
+    {SARGE_ORDER_DEFEND, IDS_ORDER_DEFEND},
+    {SARGE_ORDER_MOBILE_DEFENCE, IDS_ORDER_MOBILE_DEFENCE},
+    {SARGE_ORDER_MARCH, IDS_ORDER_MARCH},
+    {SARGE_ORDER_ADVANCE, IDS_ORDER_ADVANCE},
+    {SARGE_ORDER_BARRAGE, IDS_ORDER_BARRAGE},
 };
 
 const int trigger_name_table[TRIGGER_NAME_ENTRIES] = {
     0,
-    40,  // TRIGGER_ENEMY_CLOSE "Enemy Close"
-    41,  // TRIGGER_UNDER_FIRE "Under Fire"
-    39,  // TRIGGER_DAMAGE "Damage"
-    38,  // TRIGGER_MESSAGE "Message"
-    42,  // TRIGGER_CONTINUE "Continue"
+    IDS_TRIGGER_ENEMY_CLOSE,
+    IDS_TRIGGER_UNDER_FIRE,
+    IDS_TRIGGER_DAMAGE,
+    IDS_TRIGGER_MESSAGE,
+    IDS_TRIGGER_CONTINUE,
     0,
 };
 

@@ -1,6 +1,6 @@
 // The sarge order types and contingency trigger types with their display
-// names (string-table ids). Every list of order types is built from
-// order_type_table in its row order.
+// names (string-table ids), and which fields each order type uses. Every
+// list of order types is built from order_type_table in its row order.
 #pragma once
 
 #include "editor_api.h"
@@ -22,3 +22,9 @@ int order_type_string_id(int32_t type);
 // (entries 0 and 6).
 constexpr int TRIGGER_NAME_ENTRIES = 7;
 extern const int trigger_name_table[TRIGGER_NAME_ENTRIES];
+
+// The fields an order type uses: a duration (Halt, Barrage), a formation and
+// its rotation (Advance, March), a destination (those three).
+inline bool uses_duration(int32_t type) { return type == SARGE_ORDER_HALT || type == SARGE_ORDER_BARRAGE; }
+inline bool uses_formation(int32_t type) { return type == SARGE_ORDER_ADVANCE || type == SARGE_ORDER_MARCH; }
+inline bool uses_destination(int32_t type) { return uses_formation(type) || type == SARGE_ORDER_BARRAGE; }

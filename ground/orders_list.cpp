@@ -1,75 +1,50 @@
+// Orders (template 129): the type of a new sarge order, after which the
+// Sarge Order dialog opens on it.
 #include "ground/orders_list.h"
 
-#include "editor/editor.h"
 #include "ground/order_types.h"
 #include "ground/sarge_order.h"
+#include "resources/ground_ids.h"
+#include "util/controls.h"
 #include "util/dialogs.h"
-#include "util/module_flag.h"
+#include "util/modal.h"
 
 namespace {
-enum { IDD_ORDERS = 129, IDC_ORDER_TYPES = 1054 };
-
 module_flag module;
 sarge_order_record *typed = nullptr;
 
 void on_init(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_ORDER_TYPES);
+    HWND list = GetDlgItem(dialog, IDC_OR_TYPES);
     for (int row = 0; row < ORDER_TYPE_ROWS; ++row) {
         char name[32];
         load_string(order_type_table[row].string_id, name, sizeof name);
-        LRESULT index = SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
-        if (index >= 0) SendMessageA(list, LB_SETITEMDATA, static_cast<WPARAM>(index), row);
+        list_add_line(list, name, row);
     }
     SendMessageA(list, LB_SETCURSEL, 0, 0);
     centre_dialog(dialog);
     ShowWindow(dialog, SW_SHOW);
 }
 
-void on_ok(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_ORDER_TYPES);
-    int confirmed = 0;
-    LRESULT index = SendMessageA(list, LB_GETCURSEL, 0, 0);
-    if (index != LB_ERR) {
-        LRESULT row = SendMessageA(list, LB_GETITEMDATA, static_cast<WPARAM>(index), 0);
-        if (row >= 0 && row < ORDER_TYPE_ROWS) {
-            typed->type = order_type_table[row].type;
-            confirmed = edit_sarge_order(dialog, typed) ? 1 : 0;
-        }
-    }
-    EndDialog(dialog, confirmed);
+// Confirmed only when both the type and the order itself were.
+dialog_end on_ok(HWND dialog) {
+    LPARAM row = 0;
+    if (!list_selected_data(GetDlgItem(dialog, IDC_OR_TYPES), row) || row < 0 || row >= ORDER_TYPE_ROWS)
+        return END_UNCONFIRMED;
+    typed->type = order_type_table[row].type;
+    return edit_sarge_order(dialog, typed) ? END_CONFIRMED : END_UNCONFIRMED;
 }
 
-void on_cancel(HWND dialog) {
-    typed->type = -1;
-    EndDialog(dialog, 0);
-}
+void on_cancel(HWND) { typed->type = -1; }
 
-INT_PTR CALLBACK orders_proc(HWND dialog, UINT message, WPARAM wparam, LPARAM) {
-    switch (message) {
-    case WM_INITDIALOG:
-        on_init(dialog);
-        return TRUE;
-    case WM_COMMAND:
-        if (HIWORD(wparam) != BN_CLICKED) return TRUE;
-        if (LOWORD(wparam) == IDOK) on_ok(dialog);
-        if (LOWORD(wparam) == IDCANCEL) on_cancel(dialog);
-        return TRUE;
-    case WM_CLOSE:
-        on_cancel(dialog);
-        return TRUE;
-    default:
-        return FALSE;
-    }
-}
+const dialog_class orders_dialog = {on_init, nullptr, on_ok, on_cancel, TRUE};
 }  // namespace
 
 int orders_list_start() { return module.start(); }
 int orders_list_tidyup() { return module.tidyup(); }
 
 int choose_order_type(HWND owner, sarge_order_record *order) {
-    if (!module.started || !order) return 0;
+    modal_session session(module);
+    if (!session || !order) return 0;
     typed = order;
-    INT_PTR result = DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(IDD_ORDERS), owner, orders_proc, 0);
-    typed = nullptr;
-    return result == 1 ? 1 : 0;
+    return session.run(IDD_ORDERS, owner, dialog_proc<orders_dialog>);
 }

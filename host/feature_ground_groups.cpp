@@ -7,6 +7,7 @@
 #include "host/host_app.h"
 #include "host/sample_mission.h"
 #include "host/ui_driver.h"
+#include "resources/ground_ids.h"
 
 namespace {
 uintptr_t arg(const void *p) { return reinterpret_cast<uintptr_t>(p); }
@@ -63,12 +64,12 @@ void tour() {
         ui_command(dlg, 3);  // Edit: sarge0 is selected
     });
     d.then("Dialog", [](HWND dlg) {
-        ui_list_select_index(dlg, 1036, 0);
+        ui_list_select_index(dlg, IDC_GC_AVAILABLE, 0);
         tour_screenshot(dlg, "group_composition");
         ui_command(dlg, 1086);
     });
     d.then("Dialog", [](HWND dlg) {
-        ui_list_select_index(dlg, 1039, 1);
+        ui_list_select_index(dlg, IDC_GO_ORDERS, 1);
         tour_screenshot(dlg, "group_orders");
         ui_command(dlg, 1049);
     });

@@ -13,6 +13,7 @@
 #include "host/host_app.h"
 #include "host/sample_mission.h"
 #include "host/ui_driver.h"
+#include "resources/ground_ids.h"
 
 namespace {
 // The shared group record, by its byte offsets (7844 bytes).
@@ -27,9 +28,6 @@ constexpr size_t group_type = 7840;
 
 // Group Composition and Group Orders are both titled "Dialog".
 constexpr const char *group_title = "Dialog";
-constexpr int edit_orders_button = 1086;
-constexpr int order_list = 1039, order_edit = 1050;
-constexpr int contingency_list = 1079, contingency_edit = 1054;
 
 void copy_name(char *field, size_t size, const char *text) {
     std::snprintf(field, size, "%s", text);
@@ -150,7 +148,7 @@ int open_through_groups(unsigned char *group, int list, int edit, const char *or
         return 0;
     }
     ui_driver driver(tour ? 8000 : 3600 * 1000);
-    driver.then(group_title, [](HWND composition) { ui_command(composition, edit_orders_button); });
+    driver.then(group_title, [](HWND composition) { ui_command(composition, IDC_GC_EDIT_ORDERS); });
     driver.then(group_title, [list, edit](HWND orders) {
         ui_list_select_index(orders, list, 0);
         ui_command(orders, edit);
@@ -168,7 +166,7 @@ void edit_order(size_t index, const order_steps &at_order = {}) {
     sarge_order_record &order = sample_orders()[index];
     unsigned char *group = make_group(&order, nullptr);
     if (!group) return;
-    int result = open_through_groups(group, order_list, order_edit, "Sarge Order", at_order);
+    int result = open_through_groups(group, IDC_GO_ORDERS, IDC_GO_EDIT, "Sarge Order", at_order);
     app().log("sarge order: group composition answered " + std::to_string(result));
     if (result && *at<int32_t>(group, group_order_count) >= 1)
         std::memcpy(&order, group + group_orders, sizeof order);
@@ -180,7 +178,7 @@ void edit_contingency(const order_steps &at_order = {}) {
     contingency_order_record &c = sample_contingency();
     unsigned char *group = make_group(nullptr, &c);
     if (!group) return;
-    int result = open_through_groups(group, contingency_list, contingency_edit, "Sarge Order", at_order);
+    int result = open_through_groups(group, IDC_GO_CONTINGENCIES, IDC_GO_C_EDIT, "Sarge Order", at_order);
     app().log("contingency order: group composition answered " + std::to_string(result));
     if (result && *at<int32_t>(group, group_contingency_count) >= 1)
         std::memcpy(&c, group + group_contingencies, sizeof c);
@@ -233,8 +231,8 @@ void tour_orders() {
     // Damage with an Advance order, then switched to Enemy Close with a Halt.
     edit_contingency({[](HWND dialog) {
                           tour_screenshot(dialog, "contingency_damage_advance");
-                          ui_combo_select(dialog, 1067, "Enemy Close");
-                          ui_combo_select(dialog, 1075, "Halt");
+                          ui_combo_select(dialog, IDC_CT_TRIGGER, "Enemy Close");
+                          ui_combo_select(dialog, IDC_CT_ORDER_TYPE, "Halt");
                       },
                       [](HWND dialog) {
                           tour_screenshot(dialog, "contingency_enemy_close_halt");
@@ -246,12 +244,12 @@ void tour_names() {
     ui_driver driver;
     driver.then("Dialog", [](HWND list) {
         tour_screenshot(list, "object_names");
-        ui_list_select_index(list, 1063, 0);
+        ui_list_select_index(list, IDC_ON_LIST, 0);
         ui_command(list, 1067);
     });
     driver.then("", [](HWND edit) {
         tour_screenshot(edit, "edit_name");
-        SetDlgItemTextA(edit, 1066, "Tank2");
+        SetDlgItemTextA(edit, IDC_EN_NAME, "Tank2");
         ui_command(edit, IDOK);
     });
     driver.then("Name Error", [](HWND box) {

@@ -1,3 +1,6 @@
+// Create New Objects (template 122, request 4): the type, reference object,
+// count, spacing and alignment of new objects, with the designer's last
+// choices remembered between runs.
 #include "placement/create_objects.h"
 
 #include <cstdio>
@@ -5,15 +8,21 @@
 #include <string>
 
 #include "editor/editor.h"
+#include "resources/placement_ids.h"
+#include "resources/string_ids.h"
+#include "util/controls.h"
 #include "util/dialogs.h"
 #include "util/dlist.h"
-#include "util/module_flag.h"
+#include "util/modal.h"
 #include "util/numbers.h"
 #include "util/settings.h"
+#include "util/text.h"
 
 namespace {
 // The string-table text of each object type, by type index.
-const int type_string_ids[OBJECT_TYPE_COUNT] = {9, 10, 24, 32, 46, 47, 48, 79, 80};
+const int type_string_ids[OBJECT_TYPE_COUNT] = {
+    IDS_TYPE_WORLD,        IDS_TYPE_CULTURAL,    IDS_TYPE_GRALLS,     IDS_TYPE_GROUP_WAYPOINT, IDS_TYPE_BOMBING_RUN,
+    IDS_TYPE_RALLY_POINT, IDS_TYPE_HELICOPTER, IDS_TYPE_GRUNIT, IDS_TYPE_MAN};
 
 const create_objects_memory default_memory = {0, "", 1, 50.0f, 100.0f, 3, 1, 3, 1};
 
@@ -21,9 +30,6 @@ module_flag module;
 create_objects_memory memory = default_memory;
 // The record being edited; copied back over the host's record only on OK.
 create_objects_record working;
-// A nested second dialog (a host request from inside this one) is refused:
-// it would overwrite the working copy that the first one writes back.
-bool open = false;
 
 // Whole-text read of a control: the designer may type far more than any field
 // holds, and the numeric rules must judge all of it, not a cut prefix.
@@ -38,20 +44,9 @@ std::string control_text(HWND dialog, int id) {
     return text;
 }
 
-// A name of at most 63 characters, even when the source is not terminated
-// within its 64 bytes.
-void copy_name(char (&dest)[64], const char *src) {
-    size_t length = 0;
-    while (length < sizeof dest - 1 && src[length]) ++length;
-    std::memcpy(dest, src, length);
-    dest[length] = '\0';
-}
-
 bool offered(uint32_t bit) { return ((working.enabled | working.preset) & bit) != 0; }
 bool editable(uint32_t bit) { return (working.enabled & bit) != 0; }
 bool preset(uint32_t bit) { return (working.preset & bit) != 0; }
-
-void enable_item(HWND dialog, int id, bool enable) { EnableWindow(GetDlgItem(dialog, id), enable ? TRUE : FALSE); }
 
 // "%u" parse of a whole number; false unless exactly one number was read.
 bool parse_unsigned(const std::string &text, uint32_t &value) {
@@ -86,7 +81,7 @@ int32_t checked_axis(HWND dialog, const int (&buttons)[3]) {
 const int aalign_buttons[3] = {IDC_CO_AALIGN_X, IDC_CO_AALIGN_Y, IDC_CO_AALIGN_Z};
 const int orient_buttons[3] = {IDC_CO_ORIENT_X, IDC_CO_ORIENT_Y, IDC_CO_ORIENT_Z};
 
-void init_dialog(HWND dialog) {
+void on_init(HWND dialog) {
     HWND type_combo = GetDlgItem(dialog, IDC_CO_TYPE);
     HWND ref_combo = GetDlgItem(dialog, IDC_CO_REF_OBJ);
 
@@ -107,49 +102,49 @@ void init_dialog(HWND dialog) {
                 SendMessageA(type_combo, CB_SETCURSEL, static_cast<WPARAM>(item), 0);
         }
     }
-    enable_item(dialog, IDC_CO_TYPE, editable(CO_TYPE));
+    enable_control(dialog, IDC_CO_TYPE, editable(CO_TYPE));
 
     if (offered(CO_REF_OBJ)) {
         fill_reference_list(dialog, ref_combo);
         // The host's name becomes the remembered one as soon as it is shown.
-        if (preset(CO_REF_OBJ)) copy_name(memory.ref_obj, working.ref_obj);
+        if (preset(CO_REF_OBJ)) copy_field(memory.ref_obj, working.ref_obj);
         select_reference(ref_combo, memory.ref_obj);
     }
-    enable_item(dialog, IDC_CO_REF_OBJ, editable(CO_REF_OBJ));
+    enable_control(dialog, IDC_CO_REF_OBJ, editable(CO_REF_OBJ));
 
     uint32_t number = preset(CO_NUMBER) ? working.number : memory.number;
     if (offered(CO_NUMBER)) set_item_text_f(dialog, IDC_CO_NUMBER, "%u", number);
-    enable_item(dialog, IDC_CO_NUMBER, editable(CO_NUMBER));
+    enable_control(dialog, IDC_CO_NUMBER, editable(CO_NUMBER));
 
     if (offered(CO_OBJ_DIST))
         set_item_text_f(dialog, IDC_CO_OBJ_DIST, "%.3f", preset(CO_OBJ_DIST) ? working.obj_dist : memory.obj_dist);
     // Set after the number, whose text change may already have switched it.
-    enable_item(dialog, IDC_CO_OBJ_DIST, editable(CO_OBJ_DIST) && (!editable(CO_NUMBER) || number > 1));
+    enable_control(dialog, IDC_CO_OBJ_DIST, editable(CO_OBJ_DIST) && (!editable(CO_NUMBER) || number > 1));
 
     if (offered(CO_CAM_DIST))
         set_item_text_f(dialog, IDC_CO_CAM_DIST, "%.3f", preset(CO_CAM_DIST) ? working.cam_dist : memory.cam_dist);
-    enable_item(dialog, IDC_CO_CAM_DIST, editable(CO_CAM_DIST));
+    enable_control(dialog, IDC_CO_CAM_DIST, editable(CO_CAM_DIST));
 
     if (offered(CO_AALIGN))
         check_axis(dialog, preset(CO_AALIGN) ? working.aalign : static_cast<int32_t>(memory.aalign), aalign_buttons);
-    for (int id : aalign_buttons) enable_item(dialog, id, editable(CO_AALIGN));
+    for (int id : aalign_buttons) enable_control(dialog, id, editable(CO_AALIGN));
 
     if (offered(CO_AACAMREL)) {
         int32_t on = preset(CO_AACAMREL) ? working.aacamrel : static_cast<int32_t>(memory.aacamrel);
         CheckDlgButton(dialog, IDC_CO_AACAMREL, on ? BST_CHECKED : BST_UNCHECKED);
     }
-    enable_item(dialog, IDC_CO_AACAMREL, editable(CO_AACAMREL));
+    enable_control(dialog, IDC_CO_AACAMREL, editable(CO_AACAMREL));
 
     if (offered(CO_ORIENT))
         check_axis(dialog, preset(CO_ORIENT) ? working.orient : static_cast<int32_t>(memory.orient), orient_buttons);
-    for (int id : orient_buttons) enable_item(dialog, id, editable(CO_ORIENT));
+    for (int id : orient_buttons) enable_control(dialog, id, editable(CO_ORIENT));
 
     // Unlike the other fields, a preset alone does not show this one.
     if (editable(CO_OCAMREL)) {
         int32_t on = preset(CO_OCAMREL) ? working.ocamrel : static_cast<int32_t>(memory.ocamrel);
         CheckDlgButton(dialog, IDC_CO_OCAMREL, on ? BST_CHECKED : BST_UNCHECKED);
     }
-    enable_item(dialog, IDC_CO_OCAMREL, editable(CO_OCAMREL));
+    enable_control(dialog, IDC_CO_OCAMREL, editable(CO_OCAMREL));
 
     centre_dialog(dialog);
     ShowWindow(dialog, SW_SHOW);
@@ -164,15 +159,16 @@ void number_changed(HWND dialog) {
     if ((IsWindowEnabled(distance) != FALSE) != wanted) EnableWindow(distance, wanted ? TRUE : FALSE);
 }
 
-// Each failure returns its string id; each passed step has already updated the
-// working copy and the remembered value. 0 when everything passed.
-int validate(HWND dialog) {
+// The validation steps of OK, in order. Each failure answers its message's
+// string id; each passed step has already updated the working copy and the
+// remembered value. 0 when everything passed.
+int first_failure(HWND dialog) {
     if (editable(CO_TYPE)) {
         HWND combo = GetDlgItem(dialog, IDC_CO_TYPE);
         LRESULT item = SendMessageA(combo, CB_GETCURSEL, 0, 0);
         LRESULT data = item == CB_ERR ? CB_ERR : SendMessageA(combo, CB_GETITEMDATA, static_cast<WPARAM>(item), 0);
         working.type = static_cast<int32_t>(data);
-        if (working.type < 0 || working.type >= OBJECT_TYPE_COUNT) return 11;
+        if (working.type < 0 || working.type >= OBJECT_TYPE_COUNT) return IDS_INVALID_TYPE;
         memory.type = static_cast<uint32_t>(working.type);
     }
     if (editable(CO_REF_OBJ)) {
@@ -181,21 +177,21 @@ int validate(HWND dialog) {
         if (!working.ref_obj[0] ||
             SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                          reinterpret_cast<LPARAM>(working.ref_obj)) == CB_ERR)
-            return 16;
-        copy_name(memory.ref_obj, working.ref_obj);
+            return IDS_INVALID_REFERENCE;
+        copy_field(memory.ref_obj, working.ref_obj);
     }
     if (editable(CO_NUMBER)) {
         if (!parse_unsigned(control_text(dialog, IDC_CO_NUMBER), working.number) || working.number == 0 ||
             working.number > 10)
-            return 12;
+            return IDS_INVALID_NUMBER;
         memory.number = working.number;
     }
     if (editable(CO_OBJ_DIST)) {
-        if (!parse_distance(control_text(dialog, IDC_CO_OBJ_DIST), working.obj_dist)) return 13;
+        if (!parse_distance(control_text(dialog, IDC_CO_OBJ_DIST), working.obj_dist)) return IDS_INVALID_OBJECT_DISTANCE;
         memory.obj_dist = working.obj_dist;
     }
     if (editable(CO_CAM_DIST)) {
-        if (!parse_distance(control_text(dialog, IDC_CO_CAM_DIST), working.cam_dist)) return 14;
+        if (!parse_distance(control_text(dialog, IDC_CO_CAM_DIST), working.cam_dist)) return IDS_INVALID_CAMERA_DISTANCE;
         memory.cam_dist = working.cam_dist;
     }
     if (editable(CO_AALIGN)) {
@@ -216,6 +212,33 @@ int validate(HWND dialog) {
     }
     return 0;
 }
+
+// A refused value is reported and the dialog, made active again, stays open.
+dialog_end on_ok(HWND dialog) {
+    int failure = first_failure(dialog);
+    if (!failure) return END_CONFIRMED;
+    show_message_id(failure, MESSAGE_ERROR);
+    SetActiveWindow(dialog);
+    return KEEP_OPEN;
+}
+
+bool on_command(HWND dialog, int id, int code) {
+    if (id == IDC_CO_TYPE && code == CBN_SELCHANGE) {
+        if (editable(CO_TYPE) && offered(CO_REF_OBJ)) {
+            HWND combo = GetDlgItem(dialog, IDC_CO_REF_OBJ);
+            if (fill_reference_list(dialog, combo)) select_reference(combo, memory.ref_obj);
+        }
+        return true;
+    }
+    if (id == IDC_CO_NUMBER && code == EN_CHANGE) {
+        if (editable(CO_OBJ_DIST)) number_changed(dialog);
+        return true;
+    }
+    return false;
+}
+
+// WM_INITDIALOG answers FALSE: on_init has put the focus on the type box.
+const dialog_class create_objects_class = {on_init, on_command, on_ok, nullptr, FALSE};
 
 void read_unsigned(const char *file, const char *folder, int key, uint32_t &value) {
     char text[64];
@@ -250,7 +273,7 @@ int create_objects_start(const char *settings_file, const char *settings_folder)
     read_unsigned(settings_file, settings_folder, QUERY_TYPE, memory.type);
     char name[64];
     if (settings_read(settings_file, settings_folder, SETTINGS_QUERY, QUERY_REF_OBJ, name, sizeof name))
-        copy_name(memory.ref_obj, name);
+        copy_field(memory.ref_obj, name);
     read_unsigned(settings_file, settings_folder, QUERY_NUMBER, memory.number);
     read_float(settings_file, settings_folder, QUERY_OBJ_DIST, memory.obj_dist);
     read_float(settings_file, settings_folder, QUERY_CAM_DIST, memory.cam_dist);
@@ -277,13 +300,13 @@ int create_objects_tidyup(const char *settings_file, const char *settings_folder
 
 int fill_reference_list(HWND dialog, HWND combo) {
     SendMessageA(combo, CB_RESETCONTENT, 0, 0);
-    int message = 11;
+    int message = IDS_INVALID_TYPE;
     int added = 0;
     HWND type_combo = GetDlgItem(dialog, IDC_CO_TYPE);
     LRESULT item = SendMessageA(type_combo, CB_GETCURSEL, 0, 0);
     LRESULT type = item == CB_ERR ? CB_ERR : SendMessageA(type_combo, CB_GETITEMDATA, static_cast<WPARAM>(item), 0);
     if (type >= 0 && type < OBJECT_TYPE_COUNT) {
-        message = 15;
+        message = IDS_NO_REFERENCE;
         dlist *list = nullptr;
         host_typed_list_fn reference_list = host().host_reference_list;
         if (reference_list && reference_list(static_cast<int>(type), &list, HOST_LIST_ACQUIRE)) {
@@ -300,60 +323,15 @@ int fill_reference_list(HWND dialog, HWND combo) {
     return 0;
 }
 
-INT_PTR CALLBACK create_objects_proc(HWND dialog, UINT message, WPARAM wparam, LPARAM) {
-    switch (message) {
-    case WM_INITDIALOG:
-        init_dialog(dialog);
-        return FALSE;  // the focus is already on the type box
-    case WM_COMMAND: {
-        int id = LOWORD(wparam);
-        int code = HIWORD(wparam);
-        if (id == IDC_CO_TYPE && code == CBN_SELCHANGE) {
-            if (editable(CO_TYPE) && offered(CO_REF_OBJ)) {
-                HWND combo = GetDlgItem(dialog, IDC_CO_REF_OBJ);
-                if (fill_reference_list(dialog, combo)) select_reference(combo, memory.ref_obj);
-            }
-            return TRUE;
-        }
-        if (id == IDC_CO_NUMBER && code == EN_CHANGE) {
-            if (editable(CO_OBJ_DIST)) number_changed(dialog);
-            return TRUE;
-        }
-        if (id == IDOK && code == BN_CLICKED) {
-            int failure = validate(dialog);
-            if (failure) {
-                show_message_id(failure, MESSAGE_ERROR);
-                SetActiveWindow(dialog);
-            } else {
-                EndDialog(dialog, 1);
-            }
-            return TRUE;
-        }
-        if (id == IDCANCEL && code == BN_CLICKED) {
-            EndDialog(dialog, 0);
-            return TRUE;
-        }
-        return FALSE;
-    }
-    case WM_CLOSE:
-        EndDialog(dialog, 0);
-        return TRUE;
-    }
-    return FALSE;
-}
-
 int create_objects_dialog(create_objects_record *record) {
-    if (!module.started || !record || open) return 0;
+    modal_session session(module);
+    if (!session || !record) return 0;
     if ((record->preset & CO_NUMBER) && record->number > 10) {
-        show_message_id(12, MESSAGE_ERROR);
+        show_message_id(IDS_INVALID_NUMBER, MESSAGE_ERROR);
         return 0;
     }
     std::memcpy(&working, record, sizeof working);
-    open = true;
-    INT_PTR result = DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(IDD_CREATE_OBJECTS), editor_main_window(),
-                                     create_objects_proc, 0);
-    open = false;
-    if (result != 1) return 0;
+    if (!session.run(IDD_CREATE_OBJECTS, editor_main_window(), dialog_proc<create_objects_class>)) return 0;
     std::memcpy(record, &working, sizeof working);
     return 1;
 }

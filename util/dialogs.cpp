@@ -1,9 +1,7 @@
 #include "util/dialogs.h"
 
-#include <cstdio>
-#include <cstring>
-
 #include "editor/editor.h"
+#include "resources/string_ids.h"
 
 namespace {
 struct message_style {
@@ -13,10 +11,10 @@ struct message_style {
 
 // Titles and box flags by message_kind; all boxes are task-modal.
 const message_style message_styles[] = {
-    {2, MB_TASKMODAL | MB_ICONHAND | MB_OK},
-    {3, MB_TASKMODAL | MB_ICONEXCLAMATION | MB_OK},
-    {4, MB_TASKMODAL | MB_ICONASTERISK | MB_OK},
-    {5, MB_TASKMODAL | MB_ICONQUESTION | MB_YESNO},
+    {IDS_TITLE_ERROR, MB_TASKMODAL | MB_ICONHAND | MB_OK},
+    {IDS_TITLE_WARNING, MB_TASKMODAL | MB_ICONEXCLAMATION | MB_OK},
+    {IDS_TITLE_INFORMATION, MB_TASKMODAL | MB_ICONASTERISK | MB_OK},
+    {IDS_TITLE_QUESTION, MB_TASKMODAL | MB_ICONQUESTION | MB_YESNO},
 };
 
 LRESULT add_string_id(HWND control, UINT message, int id) {
@@ -38,7 +36,7 @@ int load_string(int id, char *buffer, int size) {
 int show_message(const char *text, int kind) {
     if (!editor_started) return 0;
     // Kinds outside the table get a plain OK box; its title is the error title.
-    message_style style = {2, MB_TASKMODAL};
+    message_style style = {IDS_TITLE_ERROR, MB_TASKMODAL};
     if (kind >= MESSAGE_ERROR && kind <= MESSAGE_QUESTION) style = message_styles[kind];
     char title[256];
     load_string(style.title_id, title, sizeof title);
@@ -74,31 +72,3 @@ void centre_dialog(HWND window) {
 LRESULT combo_add_string_id(HWND combo, int id) { return add_string_id(combo, CB_ADDSTRING, id); }
 
 LRESULT list_add_string_id(HWND list, int id) { return add_string_id(list, LB_ADDSTRING, id); }
-
-void set_item_text_f(HWND dialog, int id, const char *format, ...) {
-    char text[512];
-    va_list args;
-    va_start(args, format);
-    std::vsnprintf(text, sizeof text, format, args);
-    va_end(args);
-    SetDlgItemTextA(dialog, id, text);
-}
-
-int get_item_text(HWND dialog, int id, char *buffer, int size) {
-    if (size <= 0) return 0;
-    // Only the text and its terminator are written: the bytes after them in
-    // a record's field stay as the host left them.
-    buffer[0] = '\0';
-    HWND control = GetDlgItem(dialog, id);
-    int length = control ? GetWindowTextA(control, buffer, size) : 0;
-    return length < 0 ? 0 : length;
-}
-
-void copy_text(char *dest, size_t dest_size, const char *src) {
-    if (dest_size == 0) return;
-    if (!src) src = "";
-    size_t length = std::strlen(src);
-    if (length >= dest_size) length = dest_size - 1;
-    std::memcpy(dest, src, length);
-    dest[length] = '\0';
-}

@@ -3,9 +3,10 @@
 #include <windows.h>
 
 #include "editor/editor.h"
+#include "util/module_flag.h"
 
 namespace {
-int started = 0;
+module_flag module;
 // The mode cursor to put back whenever the platform asks; none shows the arrow.
 HCURSOR mode_cursor = nullptr;
 
@@ -29,21 +30,19 @@ void show_arrow() { SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(32512))); }
 }  // namespace
 
 int cursor_start() {
-    if (started) return 0;
+    if (!module.start()) return 0;
     mode_cursor = nullptr;
-    started = 1;
     return 1;
 }
 
 int cursor_tidyup() {
-    if (!started) return 0;
+    if (!module.tidyup()) return 0;
     show_arrow();
-    started = 0;
     return 1;
 }
 
 int cursor_set_mode(int mode, int submode) {
-    if (!started) return 0;
+    if (!module.started) return 0;
     int id = cursor_id(mode, submode);
     mode_cursor = id ? LoadCursorA(editor_instance(), MAKEINTRESOURCEA(id)) : nullptr;
     if (!mode_cursor) {
@@ -55,7 +54,7 @@ int cursor_set_mode(int mode, int submode) {
 }
 
 int cursor_refresh() {
-    if (!started) return 0;
+    if (!module.started) return 0;
     if (mode_cursor) SetCursor(mode_cursor);
     return 1;
 }

@@ -6,10 +6,10 @@
 #include <commdlg.h>
 
 #include "editor/editor.h"
+#include "resources/string_ids.h"
 #include "util/dialogs.h"
 
 namespace {
-constexpr int title_string = 19;
 // The dialog structure as the platform first defined it (76 bytes), which
 // every version accepts.
 constexpr DWORD open_file_name_size = 76;
@@ -21,7 +21,7 @@ struct file_kind {
     int description;
     int pattern;
 };
-const file_kind kinds[2] = {{17, 18}, {34, 35}};  // world data, mission
+const file_kind kinds[2] = {{IDS_WORLD_FILES, IDS_WORLD_PATTERN}, {IDS_MISSION_FILES, IDS_MISSION_PATTERN}};
 }  // namespace
 
 int save_file_dialog(char *buffer, uint32_t size, int mission) {
@@ -54,7 +54,7 @@ int save_file_dialog(char *buffer, uint32_t size, int mission) {
     const char *default_extension = last_stop ? last_stop + 1 : nullptr;
 
     char title[256];
-    if (load_string(title_string, title, sizeof title) == 0) return 0;
+    if (load_string(IDS_SAVE_TITLE, title, sizeof title) == 0) return 0;
 
     OPENFILENAMEA dialog;
     std::memset(&dialog, 0, sizeof dialog);

@@ -4,26 +4,27 @@
 #include <cstring>
 
 #include "editor/editor.h"
+#include "resources/string_ids.h"
+#include "resources/window_ids.h"
+#include "util/controls.h"
 #include "util/dialogs.h"
+#include "util/module_flag.h"
 #include "util/numbers.h"
 #include "util/settings.h"
+#include "util/text.h"
 #include "windows/floating.h"
 
 namespace {
-constexpr int status_template = 125;
-constexpr int info_caption_id = 1031;
-constexpr int info_text_id = 1032;
-
 // Single-precision constants: not exact reciprocals, but a typed 1 still
 // shows as 1.00 after going both ways.
 constexpr float degrees_to_radians = 0.01745328f;
 constexpr float radians_to_degrees = 57.295826f;
 
 // The six fields, by the stored state word each one shows.
-const int position_fields[3] = {1017, 1018, 1019};
-const int orientation_fields[3] = {1024, 1026, 1027};
+const int position_fields[3] = {IDC_ST_POSITION_X, IDC_ST_POSITION_Y, IDC_ST_POSITION_Z};
+const int orientation_fields[3] = {IDC_ST_ORIENTATION_X, IDC_ST_ORIENTATION_Y, IDC_ST_ORIENTATION_Z};
 
-int started = 0;
+module_flag module;
 HWND status_window = nullptr;
 
 int field_index(const int (&fields)[3], int id) {
@@ -91,34 +92,34 @@ void format_object_names(char (&text)[80], const char (&names)[64]) {
 void set_caption_id(HWND window, int string_id) {
     char caption[80];
     load_string(string_id, caption, sizeof caption);
-    SetDlgItemTextA(window, info_caption_id, caption);
+    SetDlgItemTextA(window, IDC_ST_INFO_CAPTION, caption);
 }
 
 void refresh_info_line(HWND window, const editor_state &state) {
-    if (!GetDlgItem(window, info_text_id)) return;
+    if (!GetDlgItem(window, IDC_ST_INFO_TEXT)) return;
     if (state.edit_mode != 0 || (state.info_kind != INFO_OBJECT && state.info_kind != INFO_TERRAIN)) {
-        SetDlgItemTextA(window, info_caption_id, "");
-        SetDlgItemTextA(window, info_text_id, "");
+        SetDlgItemTextA(window, IDC_ST_INFO_CAPTION, "");
+        SetDlgItemTextA(window, IDC_ST_INFO_TEXT, "");
         return;
     }
     char text[80];
     if (state.info_kind == INFO_TERRAIN) {
-        set_caption_id(window, 23);
+        set_caption_id(window, IDS_INFO_TERRAIN);
         const float *l = state.info.terrain.location;
         const float *n = state.info.terrain.normal;
         std::snprintf(text, sizeof text, "(%.1f, %.1f, %.1f), (%1.2f, %1.2f, %1.2f)", l[0], l[1], l[2], n[0],
                       n[1], n[2]);
     } else if (!state.info.object.named) {
-        set_caption_id(window, 22);
+        set_caption_id(window, IDS_INFO_OBJECT_SHAPE);
         format_object_shape(text, state.info.object.object_id, state.shape_name ? state.shape_name : "???");
     } else {
-        set_caption_id(window, 33);
+        set_caption_id(window, IDS_INFO_OBJECT_NAMES);
         char names[64] = {};
         // The host not knowing the object leaves the previous text showing.
         if (!host().host_object_name || !host().host_object_name(state.info.object.object_id, 0, names)) return;
         format_object_names(text, names);
     }
-    SetDlgItemTextA(window, info_text_id, text);
+    SetDlgItemTextA(window, IDC_ST_INFO_TEXT, text);
 }
 }  // namespace
 
@@ -127,7 +128,7 @@ INT_PTR CALLBACK status_proc(HWND window, UINT message, WPARAM wparam, LPARAM) {
     case WM_INITDIALOG:
         return 1;
     case WM_COMMAND:
-        if (started && HIWORD(wparam) == EN_CHANGE) field_changed(window, LOWORD(wparam));
+        if (module.started && HIWORD(wparam) == EN_CHANGE) field_changed(window, LOWORD(wparam));
         return 0;
     case WM_SETCURSOR:
         take_activation_for_cursor(window);
@@ -138,24 +139,22 @@ INT_PTR CALLBACK status_proc(HWND window, UINT message, WPARAM wparam, LPARAM) {
 }
 
 int status_start(HWND owner, const char *settings_file, const char *settings_folder) {
-    if (started) return 0;
-    status_window = floating_window_open(status_template, owner, status_proc, settings_file, settings_folder,
-                                         SETTINGS_STATUS, 21);
-    if (!status_window) return 0;
-    started = 1;
-    return 1;
+    if (module.started) return 0;
+    status_window = floating_window_open(IDD_STATUS, owner, status_proc, settings_file, settings_folder,
+                                         SETTINGS_STATUS, IDS_STATUS_FAILED);
+    return status_window ? module.start() : 0;
 }
 
 int status_tidyup(const char *settings_file, const char *settings_folder) {
-    if (!started) return 0;
+    if (!module.started) return 0;
     floating_window_close(status_window, settings_file, settings_folder, SETTINGS_STATUS);
     status_window = nullptr;
-    started = 0;
+    module.tidyup();
     return 1;
 }
 
 void status_refresh() {
-    if (!started) return;
+    if (!module.started) return;
     HWND window = status_window;
     // Read the stored state afresh for each field: while the Status window is
     // active, setting a field stores its value back (rounded) and the host
@@ -173,4 +172,4 @@ void status_refresh() {
     refresh_info_line(window, editor_stored_state());
 }
 
-int is_status_window(HWND window) { return started && window == status_window ? 1 : 0; }
+int is_status_window(HWND window) { return module.started && window == status_window ? 1 : 0; }

@@ -1,12 +1,13 @@
 #include "windows/toolbar.h"
 
 #include "editor/editor.h"
+#include "resources/string_ids.h"
+#include "resources/window_ids.h"
+#include "util/module_flag.h"
 #include "util/settings.h"
 #include "windows/floating.h"
 
 namespace {
-constexpr int toolbar_template = 103;
-
 struct mode_button {
     int id;
     int icon;
@@ -15,11 +16,12 @@ struct mode_button {
 // Indexed by edit mode. The fourth button from the top is mode 4 and the
 // fifth is mode 3: the template's order, not the modes', sets the places.
 const mode_button mode_buttons[] = {
-    {1005, 105}, {1006, 106}, {1009, 109}, {1008, 107}, {1007, 108},
+    {IDC_TB_MODE0, IDI_MODE0}, {IDC_TB_MODE1, IDI_MODE1}, {IDC_TB_MODE2, IDI_MODE2},
+    {IDC_TB_MODE3, IDI_MODE3}, {IDC_TB_MODE4, IDI_MODE4},
 };
 constexpr unsigned mode_count = sizeof mode_buttons / sizeof mode_buttons[0];
 
-int started = 0;
+module_flag module;
 HWND toolbar = nullptr;
 // Only toolbar_sync_mode changes it: a designer's click leaves it alone, so
 // the host reporting that mode back presses (and notifies) once more.
@@ -47,7 +49,7 @@ INT_PTR CALLBACK toolbar_proc(HWND window, UINT message, WPARAM wparam, LPARAM) 
         set_button_icons(window);
         return 1;
     case WM_COMMAND:
-        if (started && HIWORD(wparam) == BN_CLICKED) {
+        if (module.started && HIWORD(wparam) == BN_CLICKED) {
             int mode = mode_of_button(LOWORD(wparam));
             if (mode >= 0) host_notify(NOTIFY_MODE, static_cast<uintptr_t>(mode));
         }
@@ -61,19 +63,17 @@ INT_PTR CALLBACK toolbar_proc(HWND window, UINT message, WPARAM wparam, LPARAM) 
 }
 
 int toolbar_start(HWND owner, const char *settings_file, const char *settings_folder) {
-    if (started) return 0;
-    toolbar = floating_window_open(toolbar_template, owner, toolbar_proc, settings_file, settings_folder,
-                                   SETTINGS_TOOLBAR, 1);
-    if (!toolbar) return 0;
-    started = 1;
-    return 1;
+    if (module.started) return 0;
+    toolbar = floating_window_open(IDD_TOOLBAR, owner, toolbar_proc, settings_file, settings_folder,
+                                   SETTINGS_TOOLBAR, IDS_TOOLBAR_FAILED);
+    return toolbar ? module.start() : 0;
 }
 
 int toolbar_tidyup(const char *settings_file, const char *settings_folder) {
-    if (!started) return 0;
+    if (!module.started) return 0;
     floating_window_close(toolbar, settings_file, settings_folder, SETTINGS_TOOLBAR);
     toolbar = nullptr;
-    started = 0;
+    module.tidyup();
     // A new toolbar starts with no button down, so forget the last pressed
     // mode: the next editor_init presses its initial mode and tells the host,
     // even when that mode equals the one pressed before the tidy-up.
@@ -82,7 +82,7 @@ int toolbar_tidyup(const char *settings_file, const char *settings_folder) {
 }
 
 int toolbar_sync_mode(int mode) {
-    if (!started || mode == last_pressed_mode) return 0;
+    if (!module.started || mode == last_pressed_mode) return 0;
     if (static_cast<unsigned>(mode) >= mode_count) return 0;
     HWND button = GetDlgItem(toolbar, mode_buttons[mode].id);
     if (!button) return 0;
@@ -99,4 +99,4 @@ int toolbar_sync_mode(int mode) {
     return 1;
 }
 
-int is_toolbar_window(HWND window) { return started && window == toolbar ? 1 : 0; }
+int is_toolbar_window(HWND window) { return module.started && window == toolbar ? 1 : 0; }

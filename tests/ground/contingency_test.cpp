@@ -1,13 +1,9 @@
 #include "ground/contingency.h"
 #include "tests/ground/group_fixture.h"
 #include "util/dialogs.h"
+#include "util/text.h"
 
 namespace {
-enum {
-    TRIGGER = 1067, NEXT_ORDER_LABEL = 1082, NEXT_ORDER = 1083, VALUE_LABEL = 1084, VALUE = 1085,
-    ORDER_TYPE = 1075, NAME = 1071, DESTINATION = 1059, FORMATION = 1058, AMOUNT_LABEL = 1100, AMOUNT = 1101,
-    MESSAGE = 1057, TARGET = 1065
-};
 using names = std::vector<std::string>;
 }  // namespace
 
@@ -29,24 +25,24 @@ protected:
 
 TEST_F(contingency_test, fresh_record_opens_as_enemy_close_and_halt) {
     EXPECT_EQ(1, edit({[&](HWND dlg) {
-        EXPECT_EQ(ui_combo_items(dlg, TRIGGER),
+        EXPECT_EQ(ui_combo_items(dlg, IDC_CT_TRIGGER),
                   (names{"Enemy Close", "Under Fire", "Damage", "Message", "Continue"}));
-        EXPECT_EQ(ui_combo_selected(dlg, TRIGGER), "Enemy Close");
-        EXPECT_EQ(ui_text(dlg, VALUE_LABEL), "Distance (m)");
-        EXPECT_EQ(ui_text(dlg, VALUE), "");
-        EXPECT_TRUE(ui_enabled(dlg, VALUE) && ui_enabled(dlg, NEXT_ORDER));
-        EXPECT_EQ(ui_combo_items(dlg, ORDER_TYPE),
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_TRIGGER), "Enemy Close");
+        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE_LABEL), "Distance (m)");
+        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "");
+        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_VALUE) && ui_enabled(dlg, IDC_CT_NEXT_ORDER));
+        EXPECT_EQ(ui_combo_items(dlg, IDC_CT_ORDER_TYPE),
                   (names{"Halt", "Defend", "Mobile Defence", "March", "Advance", "Barrage"}));
-        EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Halt");
-        EXPECT_EQ(ui_text(dlg, AMOUNT_LABEL), "Duration (secs)");
-        EXPECT_EQ(ui_text(dlg, AMOUNT), "0.000000");
-        EXPECT_TRUE(ui_enabled(dlg, AMOUNT));
-        EXPECT_FALSE(ui_enabled(dlg, DESTINATION) || ui_enabled(dlg, FORMATION));
-        EXPECT_EQ(ui_combo_selected(dlg, TARGET), "NONE");
-        ui_set_text(dlg, VALUE, "12.5m");
-        ui_set_text(dlg, NEXT_ORDER, "abcdefghijklmnopqrst");
-        ui_combo_select(dlg, TARGET, "HQ");
-        ui_set_text(dlg, MESSAGE, "done");
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_ORDER_TYPE), "Halt");
+        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT_LABEL), "Duration (secs)");
+        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT), "0.000000");
+        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_AMOUNT));
+        EXPECT_FALSE(ui_enabled(dlg, IDC_ORDER_DESTINATION) || ui_enabled(dlg, IDC_ORDER_FORMATION));
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_MESSAGE_TARGET), "NONE");
+        ui_set_text(dlg, IDC_CT_VALUE, "12.5m");
+        ui_set_text(dlg, IDC_CT_NEXT_ORDER, "abcdefghijklmnopqrst");
+        ui_combo_select(dlg, IDC_ORDER_MESSAGE_TARGET, "HQ");
+        ui_set_text(dlg, IDC_ORDER_MESSAGE, "done");
         ui_command(dlg, IDOK);
     }}));
     EXPECT_EQ(r.trigger, TRIGGER_ENEMY_CLOSE);
@@ -63,27 +59,27 @@ TEST_F(contingency_test, switching_trigger_shows_empty_value_then_the_stored_one
     copy_text(r.next_order, "regroup");
     copy_text(r.trigger_string, "stale");
     EXPECT_EQ(edit({[&](HWND dlg) {
-                        EXPECT_EQ(ui_combo_selected(dlg, TRIGGER), "Damage");
-                        EXPECT_EQ(ui_text(dlg, VALUE_LABEL), "Survivors");
-                        EXPECT_EQ(ui_text(dlg, VALUE), "3");
-                        EXPECT_EQ(ui_text(dlg, NEXT_ORDER), "regroup");
-                        ui_combo_select(dlg, TRIGGER, "Message");
+                        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_TRIGGER), "Damage");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE_LABEL), "Survivors");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "3");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_NEXT_ORDER), "regroup");
+                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Message");
                     },
                     [&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, VALUE_LABEL), "Trigger String");
-                        EXPECT_EQ(ui_text(dlg, VALUE), "");
-                        ui_combo_select(dlg, TRIGGER, "Under Fire");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE_LABEL), "Trigger String");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "");
+                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Under Fire");
                     },
                     [&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, VALUE_LABEL), "");
-                        EXPECT_FALSE(ui_enabled(dlg, VALUE_LABEL) || ui_enabled(dlg, VALUE));
-                        EXPECT_TRUE(ui_enabled(dlg, NEXT_ORDER_LABEL));
-                        ui_combo_select(dlg, TRIGGER, "Damage");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE_LABEL), "");
+                        EXPECT_FALSE(ui_enabled(dlg, IDC_CT_VALUE_LABEL) || ui_enabled(dlg, IDC_CT_VALUE));
+                        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_NEXT_ORDER_LABEL));
+                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Damage");
                     },
                     [&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, VALUE), "3");
-                        EXPECT_TRUE(ui_enabled(dlg, VALUE_LABEL) && ui_enabled(dlg, VALUE));
-                        ui_set_text(dlg, VALUE, "7 left");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "3");
+                        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_VALUE_LABEL) && ui_enabled(dlg, IDC_CT_VALUE));
+                        ui_set_text(dlg, IDC_CT_VALUE, "7 left");
                         ui_command(dlg, IDOK);
                     }}),
               1);
@@ -97,22 +93,22 @@ TEST_F(contingency_test, each_trigger_stores_only_its_own_value) {
     r.distance = 9;
     copy_text(r.trigger_string, "go");
     // Under Fire has no value: all three fields stay.
-    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, TRIGGER, "Under Fire"); }, press_ok}), 1);
+    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, IDC_CT_TRIGGER, "Under Fire"); }, press_ok}), 1);
     EXPECT_EQ(r.trigger, TRIGGER_UNDER_FIRE);
     EXPECT_EQ(r.survivors, 4);
     EXPECT_EQ(r.distance, 9.0f);
     EXPECT_STREQ(r.trigger_string, "go");
     // No plain decimal number reads as 0, unlike the library's scans.
-    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, TRIGGER, "Enemy Close"); },
+    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, IDC_CT_TRIGGER, "Enemy Close"); },
                     [&](HWND dlg) {
-                        ui_set_text(dlg, VALUE, "inf");
+                        ui_set_text(dlg, IDC_CT_VALUE, "inf");
                         ui_command(dlg, IDOK);
                     }}),
               1);
     EXPECT_EQ(r.distance, 0.0f);
-    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, TRIGGER, "Continue"); },
+    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, IDC_CT_TRIGGER, "Continue"); },
                     [&](HWND dlg) {
-                        ui_set_text(dlg, VALUE, std::string(40, 's'));
+                        ui_set_text(dlg, IDC_CT_VALUE, std::string(40, 's'));
                         ui_command(dlg, IDOK);
                     }}),
               1);
@@ -127,12 +123,12 @@ TEST_F(contingency_test, order_type_switches_reload_the_section_and_store_its_fi
     r.order.formation_rotation = 15;
     copy_text(r.order.formation, "Line");
     EXPECT_EQ(1, edit({[&](HWND dlg) {
-        EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Barrage");
-        EXPECT_TRUE(ui_enabled(dlg, DESTINATION));
-        EXPECT_FALSE(ui_enabled(dlg, FORMATION));
-        EXPECT_EQ(ui_text(dlg, AMOUNT), "3.000000");
-        ui_set_text(dlg, AMOUNT, "123.456789");
-        ui_combo_select(dlg, DESTINATION, "WP2");
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_ORDER_TYPE), "Barrage");
+        EXPECT_TRUE(ui_enabled(dlg, IDC_ORDER_DESTINATION));
+        EXPECT_FALSE(ui_enabled(dlg, IDC_ORDER_FORMATION));
+        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT), "3.000000");
+        ui_set_text(dlg, IDC_CT_AMOUNT, "123.456789");
+        ui_combo_select(dlg, IDC_ORDER_DESTINATION, "WP2");
         ui_command(dlg, IDOK);
     }}));
     EXPECT_EQ(r.order.duration, 123.45678f);
@@ -142,19 +138,19 @@ TEST_F(contingency_test, order_type_switches_reload_the_section_and_store_its_fi
 
     // Advance: the rotation is editable here, the duration goes to 0.
     EXPECT_EQ(edit({[&](HWND dlg) {
-                        ui_set_text(dlg, NAME, "typed and lost");
-                        ui_combo_select(dlg, ORDER_TYPE, "Advance");
+                        ui_set_text(dlg, IDC_ORDER_NAME, "typed and lost");
+                        ui_combo_select(dlg, IDC_CT_ORDER_TYPE, "Advance");
                     },
                     [&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, NAME), "");  // the section reloads from the record
-                        EXPECT_EQ(ui_text(dlg, AMOUNT_LABEL), "Formation Rotation (DEGS)");
-                        EXPECT_EQ(ui_text(dlg, AMOUNT), "15.000000");
-                        EXPECT_TRUE(ui_enabled(dlg, AMOUNT) && ui_enabled(dlg, FORMATION));
-                        EXPECT_EQ(ui_combo_items(dlg, FORMATION), (names{"Column", "Line"}));
-                        EXPECT_EQ(ui_combo_selected(dlg, FORMATION), "Line");
-                        EXPECT_EQ(ui_combo_selected(dlg, DESTINATION), "WP2");
-                        ui_combo_select(dlg, FORMATION, "Column");
-                        ui_set_text(dlg, AMOUNT, "90");
+                        EXPECT_EQ(ui_text(dlg, IDC_ORDER_NAME), "");  // the section reloads from the record
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT_LABEL), "Formation Rotation (DEGS)");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT), "15.000000");
+                        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_AMOUNT) && ui_enabled(dlg, IDC_ORDER_FORMATION));
+                        EXPECT_EQ(ui_combo_items(dlg, IDC_ORDER_FORMATION), (names{"Column", "Line"}));
+                        EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_FORMATION), "Line");
+                        EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_DESTINATION), "WP2");
+                        ui_combo_select(dlg, IDC_ORDER_FORMATION, "Column");
+                        ui_set_text(dlg, IDC_CT_AMOUNT, "90");
                         ui_command(dlg, IDOK);
                     }}),
               1);
@@ -165,10 +161,10 @@ TEST_F(contingency_test, order_type_switches_reload_the_section_and_store_its_fi
     EXPECT_STREQ(r.order.destination, "WP2");
 
     // Defend: the amount is disabled and the rotation kept.
-    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, ORDER_TYPE, "Defend"); },
+    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, IDC_CT_ORDER_TYPE, "Defend"); },
                     [&](HWND dlg) {
-                        EXPECT_FALSE(ui_enabled(dlg, AMOUNT) || ui_enabled(dlg, AMOUNT_LABEL));
-                        EXPECT_FALSE(ui_enabled(dlg, DESTINATION));
+                        EXPECT_FALSE(ui_enabled(dlg, IDC_CT_AMOUNT) || ui_enabled(dlg, IDC_CT_AMOUNT_LABEL));
+                        EXPECT_FALSE(ui_enabled(dlg, IDC_ORDER_DESTINATION));
                         ui_command(dlg, IDOK);
                     }}),
               1);
@@ -182,10 +178,10 @@ TEST_F(contingency_test, cancel_leaves_the_record_untouched) {
     r.order.type = SARGE_ORDER_MARCH;
     const contingency_order_record before = r;
     EXPECT_EQ(edit({[&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, VALUE), "alarm");
-                        ui_combo_select(dlg, TRIGGER, "Damage");
-                        ui_combo_select(dlg, ORDER_TYPE, "Halt");
-                        ui_set_text(dlg, NEXT_ORDER, "x");
+                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "alarm");
+                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Damage");
+                        ui_combo_select(dlg, IDC_CT_ORDER_TYPE, "Halt");
+                        ui_set_text(dlg, IDC_CT_NEXT_ORDER, "x");
                     },
                     press_cancel}),
               0);
@@ -200,9 +196,9 @@ TEST_F(contingency_test, refused_lists_and_unknown_types_leave_fields_alone) {
     copy_text(r.order.destination, "WP9");
     copy_text(r.order.formation, "Box");
     EXPECT_EQ(1, edit({[&](HWND dlg) {
-        for (int id : {DESTINATION, FORMATION, TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
-        EXPECT_EQ(ui_combo_selected(dlg, TRIGGER), "");
-        EXPECT_FALSE(ui_enabled(dlg, VALUE));
+        for (int id : {IDC_ORDER_DESTINATION, IDC_ORDER_FORMATION, IDC_ORDER_MESSAGE_TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_TRIGGER), "");
+        EXPECT_FALSE(ui_enabled(dlg, IDC_CT_VALUE));
         ui_command(dlg, IDOK);
     }}));
     EXPECT_STREQ(r.order.destination, "WP9");
@@ -213,7 +209,7 @@ TEST_F(contingency_test, refused_lists_and_unknown_types_leave_fields_alone) {
     host.refuse_acquire = false;
     r.order.type = 1;  // no name: shown as Halt, kept
     EXPECT_EQ(1, edit({[&](HWND dlg) {
-        EXPECT_EQ(ui_combo_selected(dlg, ORDER_TYPE), "Halt");
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_ORDER_TYPE), "Halt");
         ui_command(dlg, IDOK);
     }}));
     EXPECT_EQ(r.order.type, 1);

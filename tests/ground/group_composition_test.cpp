@@ -31,8 +31,8 @@ TEST_F(composition_test, offers_units_no_other_live_group_holds_and_never_the_gr
     empty->members = nullptr;  // a group without a member list has no members
     lines available, members;
     EXPECT_EQ(0, edit(edited, {[&](HWND dlg) {
-        available = ui_list_items(dlg, GC_AVAILABLE);
-        members = ui_list_items(dlg, GC_MEMBERS);
+        available = ui_list_items(dlg, IDC_GC_AVAILABLE);
+        members = ui_list_items(dlg, IDC_GC_MEMBERS);
         ui_command(dlg, IDCANCEL);
     }}));
     EXPECT_EQ(available, (lines{"Jeep3 (jeep)", "Mortar2 (mortar)", "Tank2 (tank_t80)"}));
@@ -48,10 +48,10 @@ TEST_F(composition_test, without_a_group_list_the_standalone_units_are_offered) 
     lines available;
     EXPECT_EQ(edit(g,
                    {[&](HWND dlg) {
-                        available = ui_list_items(dlg, GC_AVAILABLE);
+                        available = ui_list_items(dlg, IDC_GC_AVAILABLE);
                         // Add-> looks units up in the other host list, empty here: nothing joins.
-                        ui_list_select(dlg, GC_AVAILABLE, "Scout9 (recon)");
-                        ui_command(dlg, GC_ADD);
+                        ui_list_select(dlg, IDC_GC_AVAILABLE, "Scout9 (recon)");
+                        ui_command(dlg, IDC_GC_ADD);
                     },
                     press_ok},
                    false),
@@ -69,17 +69,17 @@ TEST_F(composition_test, added_units_go_in_front_vanished_ones_are_skipped_remov
     lines available, members;
     EXPECT_EQ(edit(g, {[&](HWND dlg) {
                            for (const char *line : {"Minus1 (decoy)", "Tank1 (tank_t80)", "Tank2 (tank_t80)"})
-                               ui_list_select(dlg, GC_AVAILABLE, line);
+                               ui_list_select(dlg, IDC_GC_AVAILABLE, line);
                            host.units.erase(host.units.begin());  // Tank1 goes away
-                           ui_command(dlg, GC_ADD);
+                           ui_command(dlg, IDC_GC_ADD);
                        },
                        [&](HWND dlg) {
-                           ui_list_select(dlg, GC_MEMBERS, "Jeep3 (jeep)");
-                           ui_command(dlg, GC_REMOVE);
+                           ui_list_select(dlg, IDC_GC_MEMBERS, "Jeep3 (jeep)");
+                           ui_command(dlg, IDC_GC_REMOVE);
                        },
                        [&](HWND dlg) {
-                           available = ui_list_items(dlg, GC_AVAILABLE);
-                           members = ui_list_items(dlg, GC_MEMBERS);
+                           available = ui_list_items(dlg, IDC_GC_AVAILABLE);
+                           members = ui_list_items(dlg, IDC_GC_MEMBERS);
                            ui_command(dlg, IDOK);
                        }}),
               1);
@@ -99,10 +99,10 @@ TEST_F(composition_test, cancel_leaves_the_record_and_frees_the_working_copy) {
     std::vector<unsigned char> before(reinterpret_cast<unsigned char *>(g), reinterpret_cast<unsigned char *>(g + 1));
     size_t blocks = host.memory.live_blocks();
     EXPECT_EQ(edit(g, {[&](HWND dlg) {
-                           ui_list_select(dlg, GC_AVAILABLE, "Tank2 (tank_t80)");
-                           ui_command(dlg, GC_ADD);
-                           ui_command(dlg, GC_PLUS);
-                           ui_click(dlg, GC_TARGET_PLAYER);
+                           ui_list_select(dlg, IDC_GC_AVAILABLE, "Tank2 (tank_t80)");
+                           ui_command(dlg, IDC_GC_ADD);
+                           ui_command(dlg, IDC_GC_PLUS);
+                           ui_click(dlg, IDC_GC_TARGET_PLAYER);
                        },
                        press_cancel}),
               0);
@@ -127,22 +127,22 @@ TEST_F(composition_test, ok_writes_everything_back_and_a_null_member_list_gets_a
     std::string shown_name;
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
-        EXPECT_EQ(ui_combo_selected(dlg, GC_TYPE), "FRIENDLY_ARMOUR");
-        EXPECT_EQ(ui_text(dlg, GC_NAME), "sarge0");
-        EXPECT_FALSE(ui_checked(dlg, GC_BY_GROUP));
-        EXPECT_TRUE(ui_checked(dlg, GC_BY_UNIT) && ui_checked(dlg, GC_TARGET_PLAYER));
-        ui_combo_select(dlg, GC_TYPE, "ENEMY_ARMOUR");
-        ui_click(dlg, GC_TARGET_PLAYER);
-        ui_list_select(dlg, GC_AVAILABLE, "Mortar2 (mortar)");
-        ui_command(dlg, GC_ADD);
-        ui_command(dlg, GC_RENAME);
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_GC_TYPE), "FRIENDLY_ARMOUR");
+        EXPECT_EQ(ui_text(dlg, IDC_GC_NAME), "sarge0");
+        EXPECT_FALSE(ui_checked(dlg, IDC_GC_BY_GROUP));
+        EXPECT_TRUE(ui_checked(dlg, IDC_GC_BY_UNIT) && ui_checked(dlg, IDC_GC_TARGET_PLAYER));
+        ui_combo_select(dlg, IDC_GC_TYPE, "ENEMY_ARMOUR");
+        ui_click(dlg, IDC_GC_TARGET_PLAYER);
+        ui_list_select(dlg, IDC_GC_AVAILABLE, "Mortar2 (mortar)");
+        ui_command(dlg, IDC_GC_ADD);
+        ui_command(dlg, IDC_GC_RENAME);
     });
     d.then("", [&](HWND name) {
-        ui_set_text(name, 1066, "Alpha Company");
+        ui_set_text(name, IDC_EN_NAME, "Alpha Company");
         ui_command(name, IDOK);
     });
     d.then("Dialog", [&](HWND dlg) {
-        shown_name = ui_text(dlg, GC_NAME);
+        shown_name = ui_text(dlg, IDC_GC_NAME);
         ui_command(dlg, IDOK);
     });
     EXPECT_EQ(editor_window(REQUEST_GROUP_COMPOSITION, arg(g), groups_arg()), 1);
@@ -167,17 +167,17 @@ TEST_F(composition_test, group_type_is_minus_one_when_nothing_is_selected) {
     group_record *g = add_group("sarge0", {});
     g->group_type = 99;  // matches no entry: nothing selected
     EXPECT_EQ(1, edit(g, {[&](HWND dlg) {
-        EXPECT_EQ(ui_combo_selected(dlg, GC_TYPE), "");
-        EXPECT_EQ(ui_combo_items(dlg, GC_TYPE).size(), 43u);
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_GC_TYPE), "");
+        EXPECT_EQ(ui_combo_items(dlg, IDC_GC_TYPE).size(), 43u);
         ui_command(dlg, IDOK);
     }}));
     EXPECT_EQ(g->group_type, -1);
     // Text typed into the combo's edit field that matches no entry.
     g->group_type = 4;
     EXPECT_EQ(1, edit(g, {[&](HWND dlg) {
-        HWND edit_field = FindWindowExA(GetDlgItem(dlg, GC_TYPE), nullptr, "Edit", nullptr);
+        HWND edit_field = FindWindowExA(GetDlgItem(dlg, IDC_GC_TYPE), nullptr, "Edit", nullptr);
         SetWindowTextA(edit_field, "NOT_A_TYPE");
-        SendMessageA(GetDlgItem(dlg, GC_TYPE), WM_COMMAND, MAKEWPARAM(1001, EN_CHANGE),
+        SendMessageA(GetDlgItem(dlg, IDC_GC_TYPE), WM_COMMAND, MAKEWPARAM(1001, EN_CHANGE),
                      reinterpret_cast<LPARAM>(edit_field));
         ui_command(dlg, IDOK);
     }}));
@@ -192,12 +192,12 @@ TEST_F(composition_test, appearance_percent_steps_by_ten_and_the_radios_keep_hig
         uint32_t stored;
     };
     const appearance_case cases[] = {
-        {100, {GC_PLUS, GC_MINUS}, {"100", "100", "90"}, 90},
-        {0, {GC_MINUS, GC_PLUS}, {"0", "0", "10"}, 10},
-        {95, {GC_PLUS, GC_MINUS}, {"95", "95", "85"}, 85},
-        {10, {GC_MINUS}, {"10", "10"}, 10},
-        {0x3000 | 0xC00 | 50, {GC_BY_UNIT, GC_BY_GROUP}, {"50", "50", "50"}, 0x3000u | APPEAR_BY_GROUP | 50},
-        {0x3000 | 0x500 | 50, {GC_BY_UNIT}, {"50", "50"}, 0x3000u | APPEAR_BY_UNIT | 50},
+        {100, {IDC_GC_PLUS, IDC_GC_MINUS}, {"100", "100", "90"}, 90},
+        {0, {IDC_GC_MINUS, IDC_GC_PLUS}, {"0", "0", "10"}, 10},
+        {95, {IDC_GC_PLUS, IDC_GC_MINUS}, {"95", "95", "85"}, 85},
+        {10, {IDC_GC_MINUS}, {"10", "10"}, 10},
+        {0x3000 | 0xC00 | 50, {IDC_GC_BY_UNIT, IDC_GC_BY_GROUP}, {"50", "50", "50"}, 0x3000u | APPEAR_BY_GROUP | 50},
+        {0x3000 | 0x500 | 50, {IDC_GC_BY_UNIT}, {"50", "50"}, 0x3000u | APPEAR_BY_UNIT | 50},
     };
     for (const appearance_case &c : cases) {
         SCOPED_TRACE(c.appearance);
@@ -207,13 +207,13 @@ TEST_F(composition_test, appearance_percent_steps_by_ten_and_the_radios_keep_hig
         std::vector<bool> radios;
         ui_driver d;
         auto look = [&](HWND dlg) {
-            shown.push_back(ui_text(dlg, GC_PERCENT));
-            radios.push_back(ui_enabled(dlg, GC_BY_GROUP) && ui_enabled(dlg, GC_BY_UNIT));
+            shown.push_back(ui_text(dlg, IDC_GC_PERCENT));
+            radios.push_back(ui_enabled(dlg, IDC_GC_BY_GROUP) && ui_enabled(dlg, IDC_GC_BY_UNIT));
         };
         for (int id : c.clicks)
             d.then("Dialog", [=](HWND dlg) {
                 look(dlg);
-                (id == GC_BY_GROUP || id == GC_BY_UNIT) ? ui_click(dlg, id) : ui_command(dlg, id);
+                (id == IDC_GC_BY_GROUP || id == IDC_GC_BY_UNIT) ? ui_click(dlg, id) : ui_command(dlg, id);
             });
         d.then("Dialog", [=](HWND dlg) {
             look(dlg);
@@ -232,13 +232,13 @@ TEST_F(composition_test, refused_unit_lists_leave_the_available_list_empty) {
     host.refuse_unit_acquire = true;
     lines available, members{"x"};
     EXPECT_EQ(edit(g, {[&](HWND dlg) {
-                           available = ui_list_items(dlg, GC_AVAILABLE);
-                           ui_list_select(dlg, GC_MEMBERS, "Tank1 (tank_t80)");
-                           ui_command(dlg, GC_ADD);  // cannot acquire: nothing happens
-                           ui_command(dlg, GC_REMOVE);
+                           available = ui_list_items(dlg, IDC_GC_AVAILABLE);
+                           ui_list_select(dlg, IDC_GC_MEMBERS, "Tank1 (tank_t80)");
+                           ui_command(dlg, IDC_GC_ADD);  // cannot acquire: nothing happens
+                           ui_command(dlg, IDC_GC_REMOVE);
                        },
                        [&](HWND dlg) {
-                           members = ui_list_items(dlg, GC_MEMBERS);
+                           members = ui_list_items(dlg, IDC_GC_MEMBERS);
                            ui_command(dlg, IDOK);
                        }}),
               1);
@@ -250,7 +250,7 @@ TEST_F(composition_test, refused_unit_lists_leave_the_available_list_empty) {
     host.refuse_unit_release = true;
     available = {"x"};
     EXPECT_EQ(0, edit(g, {[&](HWND dlg) {
-        available = ui_list_items(dlg, GC_AVAILABLE);
+        available = ui_list_items(dlg, IDC_GC_AVAILABLE);
         ui_command(dlg, IDCANCEL);
     }}));
     EXPECT_TRUE(available.empty());
@@ -265,9 +265,9 @@ TEST_F(composition_test, over_long_and_unterminated_names_are_cut_not_overrun) {
     group_record *g = add_group("sarge0", {});
     lines available;
     EXPECT_EQ(edit(g, {[&](HWND dlg) {
-                           available = ui_list_items(dlg, GC_AVAILABLE);
-                           ui_list_select_index(dlg, GC_AVAILABLE, 0);
-                           ui_command(dlg, GC_ADD);
+                           available = ui_list_items(dlg, IDC_GC_AVAILABLE);
+                           ui_list_select_index(dlg, IDC_GC_AVAILABLE, 0);
+                           ui_command(dlg, IDC_GC_ADD);
                        },
                        press_ok}),
               1);

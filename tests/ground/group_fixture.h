@@ -10,6 +10,8 @@
 
 #include "editor/editor.h"
 #include "tests/support/test_host.h"
+#include "resources/ground_ids.h"
+#include "util/text.h"
 
 // Runs `open` while `steps` act in turn on the window titled `title`; every
 // step must run. Answers what `open` answered.
@@ -91,16 +93,4 @@ protected:
         c.order = order(SARGE_ORDER_HALT, name);
         return c;
     }
-};
-
-// Group Composition's controls.
-enum {
-    GC_AVAILABLE = 1036, GC_MEMBERS = 1034, GC_ADD = 1038, GC_REMOVE = 1037, GC_NAME = 1075, GC_RENAME = 1074,
-    GC_TYPE = 1081, GC_PERCENT = 1087, GC_PLUS = 1090, GC_MINUS = 1091, GC_BY_GROUP = 1096, GC_BY_UNIT = 1097,
-    GC_TARGET_PLAYER = 1198, GC_EDIT_ORDERS = 1086
-};
-// Group Orders' controls.
-enum {
-    GO_ORDERS = 1039, GO_ADD = 1049, GO_INSERT = 1047, GO_REMOVE = 1048, GO_EDIT = 1050,
-    GO_CONTINGENCIES = 1079, GO_C_ADD = 1053, GO_C_INSERT = 1051, GO_C_REMOVE = 1052, GO_C_EDIT = 1054
 };

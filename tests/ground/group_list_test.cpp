@@ -10,7 +10,6 @@
 #include "tests/ground/group_fixture.h"
 
 namespace {
-enum { GROUPS = 1076, EDIT = 3, REMOVE = 4, ADD = 5 };
 using lines = std::vector<std::string>;
 }  // namespace
 
@@ -28,22 +27,22 @@ TEST_F(group_list_test, new_groups_take_the_first_name_never_used_and_cancel_kee
     add_group("sarge2", {}, GROUP_STATUS_REMOVED);
     size_t blocks = host.memory.live_blocks();
     lines shown, names;
-    auto note_name = [&](HWND dlg) { names.push_back(ui_text(dlg, GC_NAME)); };
+    auto note_name = [&](HWND dlg) { names.push_back(ui_text(dlg, IDC_GC_NAME)); };
     ui_driver d;
-    d.then("Group List", [&](HWND dlg) { ui_command(dlg, ADD); })
+    d.then("Group List", [&](HWND dlg) { ui_command(dlg, IDC_GL_ADD); })
         .then("Dialog", [&](HWND dlg) {
             note_name(dlg);  // a cancelled new group goes back to the host
-            ui_list_select(dlg, GC_AVAILABLE, "Tank1 (tank_t80)");
-            ui_command(dlg, GC_ADD);
+            ui_list_select(dlg, IDC_GC_AVAILABLE, "Tank1 (tank_t80)");
+            ui_command(dlg, IDC_GC_ADD);
             ui_command(dlg, IDCANCEL);
         });
     for (int i = 0; i < 2; ++i)
-        d.then("Group List", [&](HWND dlg) { ui_command(dlg, ADD); }).then("Dialog", [&](HWND dlg) {
+        d.then("Group List", [&](HWND dlg) { ui_command(dlg, IDC_GL_ADD); }).then("Dialog", [&](HWND dlg) {
             note_name(dlg);
             ui_command(dlg, IDOK);
         });
     d.then("Group List", [&](HWND dlg) {
-        shown = ui_list_items(dlg, GROUPS);
+        shown = ui_list_items(dlg, IDC_GL_GROUPS);
         ui_command(dlg, IDCANCEL);
     });
     EXPECT_EQ(list(d), 0);
@@ -78,24 +77,24 @@ TEST_F(group_list_test, remove_marks_the_group_and_commands_wait_while_compositi
     int open_compositions = 0;
     ui_driver d;
     d.then("Group List", [&](HWND dlg) {
-         before = ui_list_items(dlg, GROUPS);
-         ui_list_select(dlg, GROUPS, "sarge0");
-         ui_command(dlg, REMOVE);
+         before = ui_list_items(dlg, IDC_GL_GROUPS);
+         ui_list_select(dlg, IDC_GL_GROUPS, "sarge0");
+         ui_command(dlg, IDC_GL_REMOVE);
      })
         .then("Group List", [&](HWND dlg) {
-            after = ui_list_items(dlg, GROUPS);
-            ui_command(dlg, REMOVE);  // no selection after the refill: nothing happens
+            after = ui_list_items(dlg, IDC_GL_GROUPS);
+            ui_command(dlg, IDC_GL_REMOVE);  // no selection after the refill: nothing happens
         })
         .then("Group List", [&](HWND dlg) {
-            ui_list_select(dlg, GROUPS, "sarge1");
-            ui_list_double_click(dlg, GROUPS);
+            ui_list_select(dlg, IDC_GL_GROUPS, "sarge1");
+            ui_list_double_click(dlg, IDC_GL_GROUPS);
         })
         .then("Dialog", [&](HWND dlg) {
-            available = ui_list_items(dlg, GC_AVAILABLE);  // the removed group's units are free
+            available = ui_list_items(dlg, IDC_GC_AVAILABLE);  // the removed group's units are free
             // The list stays enabled under Group Composition; its commands are refused.
             HWND list_dialog = FindWindowA(nullptr, "Group List");
-            for (int id : {int(ADD), int(EDIT), IDCANCEL}) ui_command(list_dialog, id);
-            ui_list_double_click(list_dialog, GROUPS);
+            for (int id : {int(IDC_GL_ADD), int(IDC_GL_EDIT), IDCANCEL}) ui_command(list_dialog, id);
+            ui_list_double_click(list_dialog, IDC_GL_GROUPS);
         })
         .then("Dialog", [&](HWND dlg) {
             for (HWND w : ui_thread_windows()) open_compositions += ui_window_text(w) == "Dialog";

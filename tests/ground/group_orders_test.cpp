@@ -15,11 +15,10 @@ lines names_of(const dlist *list) {
     return names;
 }
 void name_order(HWND dlg, const char *name) {
-    ui_set_text(dlg, 1071, name);
+    ui_set_text(dlg, IDC_ORDER_NAME, name);
     ui_command(dlg, IDOK);
 }
 enum level { AT_SARGE_ORDER, AT_ORDERS, AT_GROUP_ORDERS, AT_COMPOSITION, AT_GROUP_LIST, NOWHERE };
-enum { ORDER_TYPES = 1054 };
 }  // namespace
 
 class orders_test : public group_test {
@@ -63,20 +62,20 @@ TEST_P(nesting_test, each_level_commits_only_on_its_own_ok) {
     lines types, lines_after_add;
     ui_driver d;
     d.then("Group List", [&](HWND dlg) { ui_command(dlg, 3); });
-    d.then("Dialog", [&](HWND dlg) { ui_command(dlg, GC_EDIT_ORDERS); });
-    d.then("Dialog", [&](HWND dlg) { ui_command(dlg, GO_ADD); });
+    d.then("Dialog", [&](HWND dlg) { ui_command(dlg, IDC_GC_EDIT_ORDERS); });
+    d.then("Dialog", [&](HWND dlg) { ui_command(dlg, IDC_GO_ADD); });
     d.then("Orders", [&](HWND dlg) {
-        types = ui_list_items(dlg, ORDER_TYPES);
+        types = ui_list_items(dlg, IDC_OR_TYPES);
         close(dlg, AT_ORDERS);  // OK without a choice types the order as Advance
     });
     if (cancel_at != AT_ORDERS) {
         d.then("Sarge Order", [&](HWND dlg) {
-            ui_set_text(dlg, 1071, "Go");
+            ui_set_text(dlg, IDC_ORDER_NAME, "Go");
             close(dlg, AT_SARGE_ORDER);
         });
     }
     d.then("Dialog", [&](HWND dlg) {
-        lines_after_add = ui_list_items(dlg, GO_ORDERS);
+        lines_after_add = ui_list_items(dlg, IDC_GO_ORDERS);
         close(dlg, AT_GROUP_ORDERS);
     });
     d.then("Dialog", [&](HWND dlg) { close(dlg, AT_COMPOSITION); });
@@ -109,26 +108,26 @@ TEST_F(orders_test, insert_goes_before_the_selection_and_remove_releases) {
     lines orders, contingencies;
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
-         ui_list_select_index(dlg, GO_ORDERS, 1);
-         ui_command(dlg, GO_INSERT);
+         ui_list_select_index(dlg, IDC_GO_ORDERS, 1);
+         ui_command(dlg, IDC_GO_INSERT);
      })
         .then("Orders", [&](HWND dlg) {
-            ui_list_select(dlg, ORDER_TYPES, "Mobile Defence");
+            ui_list_select(dlg, IDC_OR_TYPES, "Mobile Defence");
             ui_command(dlg, IDOK);
         })
         .then("Sarge Order", [&](HWND dlg) { name_order(dlg, "N"); })
         .then("Dialog", [&](HWND dlg) {
-            ui_list_select_index(dlg, GO_ORDERS, 3);  // C
-            ui_command(dlg, GO_REMOVE);
+            ui_list_select_index(dlg, IDC_GO_ORDERS, 3);  // C
+            ui_command(dlg, IDC_GO_REMOVE);
         })
         .then("Dialog", [&](HWND dlg) {
-            ui_list_select_index(dlg, GO_CONTINGENCIES, 0);
-            ui_command(dlg, GO_C_REMOVE);
+            ui_list_select_index(dlg, IDC_GO_CONTINGENCIES, 0);
+            ui_command(dlg, IDC_GO_C_REMOVE);
         })
         .then("Dialog", [&](HWND dlg) {
-            orders = ui_list_items(dlg, GO_ORDERS);
-            contingencies = ui_list_items(dlg, GO_CONTINGENCIES);
-            ui_command(dlg, GO_REMOVE);  // nothing selected: nothing removed
+            orders = ui_list_items(dlg, IDC_GO_ORDERS);
+            contingencies = ui_list_items(dlg, IDC_GO_CONTINGENCIES);
+            ui_command(dlg, IDC_GO_REMOVE);  // nothing selected: nothing removed
         })
         .then("Dialog", press_ok);
     EXPECT_EQ(edit(d), 1);
@@ -142,17 +141,17 @@ TEST_F(orders_test, contingency_add_and_insert_go_through_the_contingency_dialog
     load({}, {contingency(TRIGGER_MESSAGE, "M")});
     lines shown;
     ui_driver d;
-    d.then("Dialog", [&](HWND dlg) { ui_command(dlg, GO_C_ADD); })
+    d.then("Dialog", [&](HWND dlg) { ui_command(dlg, IDC_GO_C_ADD); })
         .then("Sarge Order", [&](HWND dlg) { name_order(dlg, "Last"); })
         .then("Dialog", [&](HWND dlg) {
-            ui_list_select_index(dlg, GO_CONTINGENCIES, 0);
-            ui_command(dlg, GO_C_INSERT);
+            ui_list_select_index(dlg, IDC_GO_CONTINGENCIES, 0);
+            ui_command(dlg, IDC_GO_C_INSERT);
         })
         .then("Sarge Order", [&](HWND dlg) { name_order(dlg, "First"); })
-        .then("Dialog", [&](HWND dlg) { ui_command(dlg, GO_C_ADD); })
+        .then("Dialog", [&](HWND dlg) { ui_command(dlg, IDC_GO_C_ADD); })
         .then("Sarge Order", press_cancel)  // released, not added
         .then("Dialog", [&](HWND dlg) {
-            shown = ui_list_items(dlg, GO_CONTINGENCIES);
+            shown = ui_list_items(dlg, IDC_GO_CONTINGENCIES);
             ui_command(dlg, IDOK);
         });
     EXPECT_EQ(edit(d), 1);
@@ -165,14 +164,14 @@ TEST_F(orders_test, edits_are_lost_on_cancel) {
     std::string edited_line;
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
-         ui_list_select_index(dlg, GO_ORDERS, 0);
-         ui_command(dlg, GO_EDIT);
+         ui_list_select_index(dlg, IDC_GO_ORDERS, 0);
+         ui_command(dlg, IDC_GO_EDIT);
      })
         .then("Sarge Order", [&](HWND dlg) { name_order(dlg, "Changed"); })
         .then("Dialog", [&](HWND dlg) {
-            edited_line = ui_list_items(dlg, GO_ORDERS).at(0);
-            ui_list_select_index(dlg, GO_CONTINGENCIES, 0);
-            ui_command(dlg, GO_C_REMOVE);
+            edited_line = ui_list_items(dlg, IDC_GO_ORDERS).at(0);
+            ui_list_select_index(dlg, IDC_GO_CONTINGENCIES, 0);
+            ui_command(dlg, IDC_GO_C_REMOVE);
         })
         .then("Dialog", press_cancel);
     EXPECT_EQ(edit(d), 0);
@@ -188,8 +187,8 @@ TEST_F(orders_test, unnamed_types_are_hidden_but_kept_and_long_lines_are_whole) 
     lines orders, contingencies;
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
-        orders = ui_list_items(dlg, GO_ORDERS);
-        contingencies = ui_list_items(dlg, GO_CONTINGENCIES);
+        orders = ui_list_items(dlg, IDC_GO_ORDERS);
+        contingencies = ui_list_items(dlg, IDC_GO_CONTINGENCIES);
         ui_command(dlg, IDOK);
     });
     EXPECT_EQ(edit(d), 1);
@@ -204,17 +203,17 @@ TEST_F(orders_test, full_lists_refuse_add_and_insert) {
     bool any_enabled = true, add_again = false;
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
-         any_enabled = ui_enabled(dlg, GO_ADD) || ui_enabled(dlg, GO_INSERT) || ui_enabled(dlg, GO_C_ADD) ||
-                       ui_enabled(dlg, GO_C_INSERT);
+         any_enabled = ui_enabled(dlg, IDC_GO_ADD) || ui_enabled(dlg, IDC_GO_INSERT) || ui_enabled(dlg, IDC_GO_C_ADD) ||
+                       ui_enabled(dlg, IDC_GO_C_INSERT);
          // Commands that arrive anyway are refused: no dialog opens, nothing is allocated.
-         for (int id : {GO_ADD, GO_INSERT, GO_C_ADD, GO_C_INSERT}) ui_command(dlg, id);
+         for (int id : {IDC_GO_ADD, IDC_GO_INSERT, IDC_GO_C_ADD, IDC_GO_C_INSERT}) ui_command(dlg, id);
      })
         .then("Dialog", [&](HWND dlg) {
-            ui_list_select_index(dlg, GO_ORDERS, 0);
-            ui_command(dlg, GO_REMOVE);
+            ui_list_select_index(dlg, IDC_GO_ORDERS, 0);
+            ui_command(dlg, IDC_GO_REMOVE);
         })
         .then("Dialog", [&](HWND dlg) {
-            add_again = ui_enabled(dlg, GO_ADD) && ui_enabled(dlg, GO_INSERT);
+            add_again = ui_enabled(dlg, IDC_GO_ADD) && ui_enabled(dlg, IDC_GO_INSERT);
             ui_command(dlg, IDOK);
         });
     EXPECT_EQ(edit(d), 1);
@@ -235,7 +234,7 @@ TEST_F(orders_test, an_empty_group_keeps_two_empty_lists_and_a_cancelled_choice_
     sarge_order_record o{};
     ui_driver chosen;
     chosen.then("Orders", [&](HWND dlg) {
-        ui_list_select(dlg, ORDER_TYPES, "Barrage");
+        ui_list_select(dlg, IDC_OR_TYPES, "Barrage");
         ui_command(dlg, IDOK);
     }).then("Sarge Order", press_cancel);
     EXPECT_EQ(choose_order_type(host.main_window, &o), 0);  // both dialogs must confirm

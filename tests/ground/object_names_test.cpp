@@ -1,9 +1,9 @@
 #include "ground/object_names.h"
 #include "tests/ground/group_fixture.h"
 #include "util/dialogs.h"
+#include "util/text.h"
 
 namespace {
-enum { LIST = 1063, EDIT_NAME = 1067, NAME = 1066 };
 using lines = std::vector<std::string>;
 }  // namespace
 
@@ -41,8 +41,8 @@ protected:
         return result;
     }
     static void rename_first(HWND dlg) {
-        ui_list_select_index(dlg, LIST, 0);
-        ui_command(dlg, EDIT_NAME);
+        ui_list_select_index(dlg, IDC_ON_LIST, 0);
+        ui_command(dlg, IDC_ON_EDIT_NAME);
     }
 };
 
@@ -51,18 +51,18 @@ TEST_F(object_names_test, lines_are_sorted_as_text_and_rename_keeps_after_cancel
     add(10, "bravo", "jeep");
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
-         EXPECT_EQ(ui_list_items(dlg, LIST), (lines{"10 : bravo  (jeep)", "2 : alpha  (tank)"}));
-         EXPECT_TRUE(ui_list_selected(dlg, LIST).empty());
-         ui_list_select(dlg, LIST, "2 : alpha  (tank)");
-         ui_command(dlg, EDIT_NAME);
+         EXPECT_EQ(ui_list_items(dlg, IDC_ON_LIST), (lines{"10 : bravo  (jeep)", "2 : alpha  (tank)"}));
+         EXPECT_TRUE(ui_list_selected(dlg, IDC_ON_LIST).empty());
+         ui_list_select(dlg, IDC_ON_LIST, "2 : alpha  (tank)");
+         ui_command(dlg, IDC_ON_EDIT_NAME);
      })
         .then("", [&](HWND dlg) {
-            EXPECT_EQ(ui_text(dlg, NAME), "alpha");
-            ui_set_text(dlg, NAME, "zulu");
+            EXPECT_EQ(ui_text(dlg, IDC_EN_NAME), "alpha");
+            ui_set_text(dlg, IDC_EN_NAME, "zulu");
             ui_command(dlg, IDOK);
         })
         .then("Dialog", [&](HWND dlg) {
-            EXPECT_EQ(ui_list_items(dlg, LIST), (lines{"10 : bravo  (jeep)", "2 : zulu  (tank)"}));
+            EXPECT_EQ(ui_list_items(dlg, IDC_ON_LIST), (lines{"10 : bravo  (jeep)", "2 : zulu  (tank)"}));
             ui_command(dlg, IDCANCEL);
         });
     EXPECT_EQ(request(d), 0);
@@ -75,11 +75,11 @@ TEST_F(object_names_test, used_name_is_refused_and_the_old_one_restored) {
     std::string box_text;
     ui_driver d;
     d.then("Dialog", rename_first).then("", [&](HWND dlg) {
-        ui_set_text(dlg, NAME, "bravo");
+        ui_set_text(dlg, IDC_EN_NAME, "bravo");
         ui_command(dlg, IDOK);
     });
     d.answer_box("Name Error", IDOK, &box_text).then("Dialog", [&](HWND dlg) {
-        EXPECT_EQ(ui_list_items(dlg, LIST), (lines{"4 : alpha  (tank)"}));
+        EXPECT_EQ(ui_list_items(dlg, IDC_ON_LIST), (lines{"4 : alpha  (tank)"}));
         ui_command(dlg, IDOK);
     });
     EXPECT_EQ(request(d), 1);
@@ -105,7 +105,7 @@ TEST_F(object_names_test, edit_name_rules) {
         char field[32];
         copy_text(field, c.before);
         EXPECT_EQ(drive("", {[&](HWND dlg) {
-                            if (c.typed != "=") ui_set_text(dlg, NAME, c.typed);
+                            if (c.typed != "=") ui_set_text(dlg, IDC_EN_NAME, c.typed);
                             ui_command(dlg, c.button);
                         }},
                         [&] { return edit_name(host.main_window, field); }),
@@ -119,8 +119,8 @@ TEST_F(object_names_test, null_nodes_and_long_texts_are_safe) {
     ui_driver d;
     d.then("Dialog", [&](HWND dlg) {
          const std::string line = "7 : " + std::string(31, 'n') + "  (" + std::string(31, 't') + ")";
-         EXPECT_EQ(ui_list_items(dlg, LIST), lines{line});
-         ui_command(dlg, EDIT_NAME);  // without a selection: nothing
+         EXPECT_EQ(ui_list_items(dlg, IDC_ON_LIST), lines{line});
+         ui_command(dlg, IDC_ON_EDIT_NAME);  // without a selection: nothing
      })
         .then("Dialog", press_ok);
     EXPECT_EQ(request(d, {0}), 1);
@@ -138,7 +138,7 @@ TEST_F(object_names_test, nested_list_and_edit_name_are_refused) {
             nested_edit = nested_call([&] { return edit_name(host.main_window, other); });
             nested_list = nested_call(
                 [&] { return editor_window(REQUEST_OBJECT_NAMES, reinterpret_cast<uintptr_t>(list), 0); });
-            ui_set_text(dlg, NAME, "gamma");
+            ui_set_text(dlg, IDC_EN_NAME, "gamma");
             ui_command(dlg, IDOK);
         })
         .then("Dialog", press_ok);

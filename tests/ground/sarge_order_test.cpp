@@ -3,13 +3,10 @@
 #include "ground/sarge_order.h"
 #include "tests/ground/group_fixture.h"
 #include "util/dialogs.h"
+#include "util/controls.h"
+#include "util/text.h"
 
 namespace {
-enum {
-    NAME = 1071, DURATION_LABEL = 1060, DURATION = 1056, DESTINATION_LABEL = 1061, DESTINATION = 1059,
-    FORMATION_LABEL = 1064, FORMATION = 1058, ROTATION_LABEL = 1068, ROTATION = 1069,
-    MESSAGE = 1057, TARGET = 1065
-};
 using names = std::vector<std::string>;
 
 sarge_order_record make_order(int32_t type) {
@@ -54,26 +51,26 @@ TEST_F(sarge_order_test, each_type_enables_and_stores_its_own_fields) {
         SCOPED_TRACE(c.type);
         sarge_order_record r = make_order(c.type);
         EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
-            EXPECT_EQ(ui_enabled(dlg, DURATION), c.duration);
-            EXPECT_EQ(ui_enabled(dlg, DURATION_LABEL), c.duration);
-            EXPECT_EQ(ui_enabled(dlg, DESTINATION), c.destination);
-            EXPECT_EQ(ui_enabled(dlg, DESTINATION_LABEL), c.destination);
-            EXPECT_EQ(ui_enabled(dlg, FORMATION), c.formation);
-            EXPECT_EQ(ui_enabled(dlg, FORMATION_LABEL), c.formation);
-            EXPECT_FALSE(ui_enabled(dlg, ROTATION) || ui_enabled(dlg, ROTATION_LABEL));
-            EXPECT_TRUE(ui_enabled(dlg, NAME) && ui_enabled(dlg, MESSAGE) && ui_enabled(dlg, TARGET));
-            EXPECT_EQ(ui_text(dlg, NAME), "first");
-            EXPECT_EQ(ui_text(dlg, DURATION), c.duration ? "5.000000" : "");
-            EXPECT_EQ(ui_text(dlg, ROTATION), c.formation ? "45.000000" : "");
-            EXPECT_EQ(ui_combo_items(dlg, DESTINATION), (c.destination ? names{"WP1", "WP2", "WP3"} : names{}));
-            EXPECT_EQ(ui_combo_items(dlg, FORMATION), (c.formation ? names{"Column", "Line", "Wedge"} : names{}));
-            EXPECT_EQ(ui_combo_selected(dlg, DESTINATION), c.destination ? "WP2" : "");
-            EXPECT_EQ(ui_combo_selected(dlg, FORMATION), c.formation ? "Wedge" : "");
-            EXPECT_EQ(ui_combo_items(dlg, TARGET), (names{"HQ", "Alpha", "NONE"}));
-            ui_set_text(dlg, NAME, "hold the ridge");
-            ui_set_text(dlg, DURATION, "123.456789");  // nine characters are read
-            ui_combo_select(dlg, DESTINATION, "WP3");
-            ui_combo_select(dlg, FORMATION, "Line");
+            EXPECT_EQ(ui_enabled(dlg, IDC_SO_DURATION), c.duration);
+            EXPECT_EQ(ui_enabled(dlg, IDC_SO_DURATION_LABEL), c.duration);
+            EXPECT_EQ(ui_enabled(dlg, IDC_ORDER_DESTINATION), c.destination);
+            EXPECT_EQ(ui_enabled(dlg, IDC_ORDER_DESTINATION_LABEL), c.destination);
+            EXPECT_EQ(ui_enabled(dlg, IDC_ORDER_FORMATION), c.formation);
+            EXPECT_EQ(ui_enabled(dlg, IDC_ORDER_FORMATION_LABEL), c.formation);
+            EXPECT_FALSE(ui_enabled(dlg, IDC_SO_ROTATION) || ui_enabled(dlg, IDC_SO_ROTATION_LABEL));
+            EXPECT_TRUE(ui_enabled(dlg, IDC_ORDER_NAME) && ui_enabled(dlg, IDC_ORDER_MESSAGE) && ui_enabled(dlg, IDC_ORDER_MESSAGE_TARGET));
+            EXPECT_EQ(ui_text(dlg, IDC_ORDER_NAME), "first");
+            EXPECT_EQ(ui_text(dlg, IDC_SO_DURATION), c.duration ? "5.000000" : "");
+            EXPECT_EQ(ui_text(dlg, IDC_SO_ROTATION), c.formation ? "45.000000" : "");
+            EXPECT_EQ(ui_combo_items(dlg, IDC_ORDER_DESTINATION), (c.destination ? names{"WP1", "WP2", "WP3"} : names{}));
+            EXPECT_EQ(ui_combo_items(dlg, IDC_ORDER_FORMATION), (c.formation ? names{"Column", "Line", "Wedge"} : names{}));
+            EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_DESTINATION), c.destination ? "WP2" : "");
+            EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_FORMATION), c.formation ? "Wedge" : "");
+            EXPECT_EQ(ui_combo_items(dlg, IDC_ORDER_MESSAGE_TARGET), (names{"HQ", "Alpha", "NONE"}));
+            ui_set_text(dlg, IDC_ORDER_NAME, "hold the ridge");
+            ui_set_text(dlg, IDC_SO_DURATION, "123.456789");  // nine characters are read
+            ui_combo_select(dlg, IDC_ORDER_DESTINATION, "WP3");
+            ui_combo_select(dlg, IDC_ORDER_FORMATION, "Line");
             ui_command(dlg, IDOK);
         }}));
         EXPECT_EQ(r.type, c.type);
@@ -92,9 +89,9 @@ TEST_F(sarge_order_test, stale_long_and_unreadable_inputs) {
     copy_text(r.destination, "gone");
     EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
         // A destination the host no longer lists shows the first one, cut to the field.
-        EXPECT_EQ(ui_combo_selected(dlg, DESTINATION), long_marker.substr(0, 31));
-        ui_set_text(dlg, NAME, std::string(45, 'n'));
-        ui_set_text(dlg, DURATION, "inf");  // not a plain decimal number: kept
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_DESTINATION), long_marker.substr(0, 31));
+        ui_set_text(dlg, IDC_ORDER_NAME, std::string(45, 'n'));
+        ui_set_text(dlg, IDC_SO_DURATION, "inf");  // not a plain decimal number: kept
         ui_command(dlg, IDOK);
     }}));
     EXPECT_EQ(std::string(r.destination), long_marker.substr(0, 31));
@@ -105,7 +102,7 @@ TEST_F(sarge_order_test, stale_long_and_unreadable_inputs) {
     // field (here unterminated host bytes) stays as it was.
     std::memset(r.name, 'x', sizeof r.name);
     EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
-        ui_set_text(dlg, NAME, "ab");
+        ui_set_text(dlg, IDC_ORDER_NAME, "ab");
         ui_command(dlg, IDOK);
     }}));
     EXPECT_EQ(std::string(r.name, sizeof r.name), std::string("ab") + '\0' + std::string(29, 'x'));
@@ -124,10 +121,10 @@ TEST_F(sarge_order_test, message_and_target_are_stored_only_together) {
     };
     for (const step &s : steps) {
         EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
-            EXPECT_EQ(ui_combo_selected(dlg, TARGET), r.message_target[0] ? r.message_target : "NONE");
-            EXPECT_EQ(ui_text(dlg, MESSAGE), r.message);
-            ui_combo_select(dlg, TARGET, s.select);
-            ui_set_text(dlg, MESSAGE, s.message);
+            EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_MESSAGE_TARGET), r.message_target[0] ? r.message_target : "NONE");
+            EXPECT_EQ(ui_text(dlg, IDC_ORDER_MESSAGE), r.message);
+            ui_combo_select(dlg, IDC_ORDER_MESSAGE_TARGET, s.select);
+            ui_set_text(dlg, IDC_ORDER_MESSAGE, s.message);
             ui_command(dlg, IDOK);
         }}));
         EXPECT_STREQ(r.message_target, s.stored_target);
@@ -136,7 +133,7 @@ TEST_F(sarge_order_test, message_and_target_are_stored_only_together) {
     // A target the host no longer lists shows the first host name, stored on OK.
     copy_text(r.message_target, "Bravo");
     EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
-        EXPECT_EQ(ui_combo_selected(dlg, TARGET), "HQ");
+        EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_MESSAGE_TARGET), "HQ");
         ui_command(dlg, IDOK);
     }}));
     EXPECT_STREQ(r.message_target, "HQ");
@@ -146,8 +143,8 @@ TEST_F(sarge_order_test, cancel_and_close_leave_the_record_untouched) {
     sarge_order_record r = make_order(SARGE_ORDER_ADVANCE);
     const sarge_order_record before = r;
     EXPECT_EQ(0, edit(r, {[&](HWND dlg) {
-        ui_set_text(dlg, NAME, "changed");
-        ui_combo_select(dlg, FORMATION, "Column");
+        ui_set_text(dlg, IDC_ORDER_NAME, "changed");
+        ui_combo_select(dlg, IDC_ORDER_FORMATION, "Column");
         ui_command(dlg, IDCANCEL);
     }}));
     EXPECT_EQ(edit(r, {[&](HWND dlg) { PostMessageA(dlg, WM_CLOSE, 0, 0); }}), 0);
@@ -160,8 +157,8 @@ TEST_F(sarge_order_test, refused_host_lists_leave_combos_empty_and_fields_alone)
     copy_text(r.message_target, "HQ");
     copy_text(r.message, "old");
     EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
-        for (int id : {FORMATION, DESTINATION, TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
-        ui_set_text(dlg, MESSAGE, "new");
+        for (int id : {IDC_ORDER_FORMATION, IDC_ORDER_DESTINATION, IDC_ORDER_MESSAGE_TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
+        ui_set_text(dlg, IDC_ORDER_MESSAGE, "new");
         ui_command(dlg, IDOK);
     }}));
     EXPECT_STREQ(r.formation, "Wedge");

@@ -9,6 +9,7 @@
 #include "placement/create_objects.h"
 #include "util/dialogs.h"
 #include "tests/support/test_host.h"
+#include "resources/placement_ids.h"
 
 namespace {
 const char *const title = "Create New Objects";

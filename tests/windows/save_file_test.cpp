@@ -1,5 +1,6 @@
 #include "tests/windows/windows_test_util.h"
 #include "util/dialogs.h"
+#include "util/text.h"
 
 namespace {
 // Opens the save dialog for `request` with `buffer` and runs `act` in it.
