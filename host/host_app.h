@@ -11,6 +11,7 @@
 
 #include "editor_api.h"
 #include "host/alloc_tracker.h"
+#include "host/heli_records.h"
 #include "host/editor_exports.h"
 
 struct host_app : editor_exports {
@@ -18,6 +19,8 @@ struct host_app : editor_exports {
     HWND log_view = nullptr;
 
     alloc_tracker memory;
+    // Helicopter orders and patrol points, made, copied and destroyed on request.
+    heli_records heli{memory};
     bool editor_running = false;  // between a successful editor_init and editor_tidyup
     editor_state state{};  // what the host believes the editor shows
     std::string settings_folder;

@@ -270,6 +270,11 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) 
         }
     }
     shut_down_editor();
+    // Every helicopter record made or copied must be destroyed exactly once.
+    for (const std::string &problem : a.heli.report()) {
+        std::printf("%s\n", problem.c_str());
+        exit_code = 1;
+    }
     std::string report = a.memory.report();
     std::printf("%s", report.c_str());
     std::fflush(stdout);

@@ -166,6 +166,32 @@ int EDITOR_CDECL op_object_name(uint32_t id, int by_name, char *names) {
 }
 }  // namespace
 
+namespace {
+int EDITOR_CDECL op_order_create(uint32_t kind, heli_order_record **order) {
+    heli_order_record *made = app().heli.create_order(kind);
+    if (made) *order = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_order_copy(heli_order_record *source, heli_order_record **copy) {
+    heli_order_record *made = source ? app().heli.copy_order(*source) : nullptr;
+    if (made) *copy = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_order_destroy(heli_order_record **order) {
+    app().heli.destroy_order(*order);
+    return 0;
+}
+int EDITOR_CDECL op_patrol_point_create(const char *marker, patrol_point **point) {
+    patrol_point *made = app().heli.create_patrol_point(marker);
+    if (made) *point = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_patrol_point_destroy(patrol_point **point) {
+    app().heli.destroy_patrol_point(*point);
+    return 0;
+}
+}  // namespace
+
 host_ops sample_host_ops() {
     host_ops ops{};
     ops.host_notify = op_notify;
@@ -179,5 +205,10 @@ host_ops sample_host_ops() {
     ops.host_alloc = op_alloc;
     ops.host_free = op_free;
     ops.host_object_name = op_object_name;
+    ops.host_order_create = op_order_create;
+    ops.host_order_copy = op_order_copy;
+    ops.host_order_destroy = op_order_destroy;
+    ops.host_patrol_point_create = op_patrol_point_create;
+    ops.host_patrol_point_destroy = op_patrol_point_destroy;
     return ops;
 }

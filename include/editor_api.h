@@ -410,7 +410,133 @@ EDITOR_CHECK_OFFSET(group_record, contingency_count, 7832);
 EDITOR_CHECK_OFFSET(group_record, target_player_only, 7836);
 EDITOR_CHECK_OFFSET(group_record, group_type, 7840);
 
-/* --- Helicopter groups and orders ---------------------------------------- */
+/* --- Helicopter orders ----------------------------------------------------- */
+
+/* The six order kinds; a kind's label is a string-table text. */
+enum heli_order_kind {
+    HELI_ORDER_ENGAGE = 0, /* "Engage": engage_order body */
+    HELI_ORDER_DEPLOY = 1, /* "Deploy": dlist of deploy_entry * */
+    HELI_ORDER_PICKUP = 2, /* "Pickup": dlist of pickup_entry * */
+    HELI_ORDER_PATROL = 3, /* "Patrol": patrol_order body */
+    HELI_ORDER_WAIT = 4,   /* "Wait": wait_order body */
+    HELI_ORDER_LAND = 5,   /* "Land": land_order body */
+    HELI_ORDER_KIND_COUNT = 6
+};
+
+/* engage_order.target_type */
+enum target_type {
+    TARGETS_ALL_ENEMIES = 0,
+    TARGETS_PRIMARY = 1,
+    TARGETS_SECONDARY = 2,
+    TARGETS_SEAD = 3,
+    TARGETS_AFV = 4
+};
+
+/* wait_order.mode; 0 and 1 wait for a time, 2 to 4 for a named object. */
+enum wait_mode {
+    WAIT_UNTIL_TIME = 0,
+    WAIT_FIXED_TIME = 1,
+    WAIT_FOR_OBJECT = 2,
+    WAIT_FOR_SARGE = 3,
+    WAIT_FOR_HELI_GROUP = 4
+};
+
+/* Engage: which targets, and how far out. The host's body may be longer; the
+ * editor uses these 8 bytes. */
+typedef struct engage_order {
+    uint32_t target_type; /* target_type */
+    float range;          /* engagement zone range, metres */
+} engage_order;
+EDITOR_CHECK_SIZE(engage_order, 8);
+EDITOR_CHECK_OFFSET(engage_order, range, 4);
+
+/* One cargo item or sarge to put down (a node value of a Deploy order's list);
+ * the editor allocates and frees these with exactly 44 bytes. */
+typedef struct deploy_entry {
+    char name[32]; /* at most 31 characters */
+    float x;
+    float y;       /* never read or written by the editor */
+    float z;
+} deploy_entry;
+EDITOR_CHECK_SIZE(deploy_entry, 44);
+EDITOR_CHECK_OFFSET(deploy_entry, x, 32);
+EDITOR_CHECK_OFFSET(deploy_entry, y, 36);
+EDITOR_CHECK_OFFSET(deploy_entry, z, 40);
+
+/* One cargo item or sarge to pick up (a node value of a Pickup order's list);
+ * allocated and freed with exactly 25 bytes. */
+typedef struct pickup_entry {
+    char name[25]; /* at most 24 characters */
+} pickup_entry;
+EDITOR_CHECK_SIZE(pickup_entry, 25);
+
+/* A patrol point, made by host_patrol_point_create from a waypoint marker.
+ * It begins with the marker's name; the rest is the host's. */
+typedef struct patrol_point {
+    char marker_name[32];
+} patrol_point;
+EDITOR_CHECK_OFFSET(patrol_point, marker_name, 0);
+
+/* Patrol: the points flown in order, and how many cycles. The host's body may
+ * be longer; the editor uses these 8 bytes. */
+typedef struct patrol_order {
+    dlist_node *points; /* dlist of patrol_point * */
+    uint32_t cycles;    /* 0 unlimited, 1 to 19 */
+} patrol_order;
+EDITOR_CHECK_SIZE(patrol_order, 8);
+EDITOR_CHECK_OFFSET(patrol_order, cycles, 4);
+
+/* Wait: for a time (modes 0, 1) or for an object within a range (2 to 4). */
+typedef struct wait_order {
+    uint32_t mode;  /* wait_mode */
+    float time;     /* seconds: modes 0 and 1 */
+    char name[32];  /* object, sarge or heli group: modes 2 to 4; "NO_OBJECT" otherwise */
+    float range;    /* metres: modes 2 to 4 */
+} wait_order;
+EDITOR_CHECK_SIZE(wait_order, 44);
+EDITOR_CHECK_OFFSET(wait_order, time, 4);
+EDITOR_CHECK_OFFSET(wait_order, name, 8);
+EDITOR_CHECK_OFFSET(wait_order, range, 40);
+
+/* Land: twelve landing positions, of which the editor edits x and z. */
+typedef struct land_position {
+    float x;
+    float y; /* never read or written by the editor */
+    float z;
+} land_position;
+enum { LAND_POSITIONS = 12 };
+typedef struct land_order {
+    land_position positions[LAND_POSITIONS];
+} land_order;
+EDITOR_CHECK_SIZE(land_order, 144);
+EDITOR_CHECK_OFFSET(land_order, positions[1].x, 12);
+EDITOR_CHECK_OFFSET(land_order, positions[11].z, 140);
+
+/* A helicopter order. The host owns the record, its body, its lists and their
+ * entries; the editor relies on these first 12 bytes. */
+typedef struct heli_order_record {
+    uint32_t kind;      /* heli_order_kind */
+    uint32_t host_word; /* never read or written by the editor */
+    union {
+        engage_order *engage; /* HELI_ORDER_ENGAGE */
+        dlist_node *deploy;   /* HELI_ORDER_DEPLOY: dlist of deploy_entry * */
+        dlist_node *pickup;   /* HELI_ORDER_PICKUP: dlist of pickup_entry * */
+        patrol_order *patrol; /* HELI_ORDER_PATROL */
+        wait_order *wait;     /* HELI_ORDER_WAIT */
+        land_order *land;     /* HELI_ORDER_LAND */
+        void *word;           /* the word as such */
+    } body;
+} heli_order_record;
+EDITOR_CHECK_SIZE(heli_order_record, 12);
+EDITOR_CHECK_OFFSET(heli_order_record, kind, 0);
+EDITOR_CHECK_OFFSET(heli_order_record, body, 8);
+
+/* The list host_marker_list builds on request: node values are the
+ * NUL-terminated names of the mission's waypoint marker objects (each fits 31
+ * characters). Several may be held at once. */
+typedef dlist_node marker_list;
+
+/* --- Helicopter groups and waypoints ------------------------------------- */
 
 /* --- Air support ---------------------------------------------------------- */
 

@@ -1,6 +1,7 @@
 #include "util/numbers.h"
 
 #include <cctype>
+#include <cmath>
 #include <cstdlib>
 #include <string>
 
@@ -36,3 +37,24 @@ size_t scan_decimal(const char *text, float &value) {
     value = std::strtof(std::string(start, p).c_str(), nullptr);
     return static_cast<size_t>(p - text);
 }
+
+namespace {
+// The number at the start of `text`; 0 when there is none or it is not finite.
+size_t scan_finite(const char *text, float &value) {
+    float read = 0;
+    size_t used = scan_decimal(text, read);
+    if (used == 0 || !std::isfinite(read)) return 0;
+    value = read;
+    return used;
+}
+}  // namespace
+
+bool parse_number_strict(const char *text, float &value) {
+    float read = 0;
+    size_t used = scan_finite(text, read);
+    if (used == 0 || text[used] != '\0') return false;
+    value = read;
+    return true;
+}
+
+bool parse_number_lenient(const char *text, float &value) { return scan_finite(text, value) != 0; }

@@ -10,3 +10,14 @@
 // the number of characters used, blanks included; 0, with value untouched,
 // when the text does not begin with a number.
 size_t scan_decimal(const char *text, float &value);
+
+// The two rules of the order and air-support dialogs, on the "%f%c" pattern
+// (a number after optional blanks, then one more character). Both read only
+// plain decimal text, and refuse a number no float can hold (1e39): such a
+// value is no range, time or position.
+// Strict: the number alone, nothing after it ("12.5" yes; "12.5 ", "12m",
+// "abc" and "" no).
+bool parse_number_strict(const char *text, float &value);
+// Lenient: the text begins with a number; what follows is ignored ("12m"
+// gives 12; "", "  " and "abc" no).
+bool parse_number_lenient(const char *text, float &value);

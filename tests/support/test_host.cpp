@@ -105,6 +105,34 @@ int EDITOR_CDECL op_object_name(uint32_t id, int by_name, char *names) {
     return 1;
 }
 
+int EDITOR_CDECL op_object_exists(const char *name) {
+    return name && current_host->existing_names.count(name) ? 1 : 0;
+}
+
+int EDITOR_CDECL op_order_create(uint32_t kind, heli_order_record **order) {
+    heli_order_record *made = current_host->heli.create_order(kind);
+    if (made) *order = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_order_copy(heli_order_record *source, heli_order_record **copy) {
+    heli_order_record *made = source ? current_host->heli.copy_order(*source) : nullptr;
+    if (made) *copy = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_order_destroy(heli_order_record **order) {
+    current_host->heli.destroy_order(*order);
+    return 0;
+}
+int EDITOR_CDECL op_patrol_point_create(const char *marker, patrol_point **point) {
+    patrol_point *made = current_host->heli.create_patrol_point(marker);
+    if (made) *point = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_patrol_point_destroy(patrol_point **point) {
+    current_host->heli.destroy_patrol_point(*point);
+    return 0;
+}
+
 LRESULT CALLBACK main_window_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     return DefWindowProcA(window, message, wparam, lparam);
 }
@@ -222,6 +250,12 @@ editor_setup test_host::setup() {
     s.ops.host_alloc = op_alloc;
     s.ops.host_free = op_free;
     s.ops.host_object_name = op_object_name;
+    s.ops.host_object_exists = op_object_exists;
+    s.ops.host_order_create = op_order_create;
+    s.ops.host_order_copy = op_order_copy;
+    s.ops.host_order_destroy = op_order_destroy;
+    s.ops.host_patrol_point_create = op_patrol_point_create;
+    s.ops.host_patrol_point_destroy = op_patrol_point_destroy;
     return s;
 }
 
@@ -253,7 +287,9 @@ void editor_test::TearDown() {
     EXPECT_EQ(host.lists_out, 0) << "host lists acquired and never released";
     for (dlist_node *list : host.refused_releases) host.free_list(list);
     host.refused_releases.clear();
-    std::vector<std::string> problems = host.memory.problems();
+    std::vector<std::string> problems = host.heli.report();
+    host.heli.forget();
+    for (const std::string &p : host.memory.problems()) problems.push_back(p);
     std::string all;
     for (const std::string &p : problems) all += p + "\n";
     EXPECT_TRUE(problems.empty()) << all;

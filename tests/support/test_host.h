@@ -16,6 +16,7 @@
 
 #include "editor_api.h"
 #include "host/alloc_tracker.h"
+#include "host/heli_records.h"
 #include "host/ui_driver.h"
 
 struct notification {
@@ -26,6 +27,8 @@ struct notification {
 
 struct test_host {
     alloc_tracker memory;
+    // Orders and patrol points (host_order_*, host_patrol_point_*), counted.
+    heli_records heli{memory};
     HWND main_window = nullptr;
     std::string settings_folder;  // ends with a backslash
     std::string settings_file = "editor.ini";
@@ -64,7 +67,8 @@ struct test_host {
     // When set, refuse_acquire and refuse_release apply to this list of names only.
     const std::vector<std::string> *refuse_only = nullptr;
 
-    // host_object_name: by id, the object's name and group; by name, the names that exist.
+    // host_object_name: by id, the object's name and group; by name (and
+    // host_object_exists), the names that exist.
     std::map<uint32_t, std::pair<std::string, std::string>> objects;
     std::set<std::string> existing_names;
 
