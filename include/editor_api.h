@@ -538,6 +538,87 @@ typedef dlist_node marker_list;
 
 /* --- Helicopter groups and waypoints ------------------------------------- */
 
+/* waypoint_record.height_level */
+enum height_level { HEIGHT_NOE = 0, HEIGHT_LOW = 1, HEIGHT_MEDIUM = 2, HEIGHT_HIGH = 3 };
+/* waypoint_record.non_threat_action and .threat_action */
+enum contact_action { CONTACT_BYPASS = 0, CONTACT_ENGAGE = 1 };
+/* waypoint_record.damage_level; DAMAGE_FMC is never offered */
+enum damage_level { DAMAGE_FMC = 0, DAMAGE_PMC = 1, DAMAGE_NMC = 2 };
+/* waypoint_record.fuel_low_action, .weapons_low_action and .damage_action;
+ * ACTION_USE_ARSP for fuel and weapons, ACTION_USE_RALLY_POINT for damage. */
+enum circumstance_action {
+    ACTION_CONTINUE = 0,
+    ACTION_USE_ARSP = 1,
+    ACTION_USE_RALLY_POINT = 1,
+    ACTION_GO_HOME = 2
+};
+
+/* One waypoint of a heli group's route. The host allocates it; the editor
+ * relies on these first 76 bytes. Its settings are every word but
+ * marker_name and orders. */
+typedef struct waypoint_record {
+    char marker_name[32];        /* waypoint marker object; empty when none is chosen */
+    uint32_t height_level;       /* height_level */
+    float transit_speed;         /* metres per second (shown and typed in km/h) */
+    uint32_t carried_a;          /* not shown; carried into new waypoints with the settings */
+    uint32_t carried_b;
+    uint32_t non_threat_action;  /* contact_action when a non-threat is sighted */
+    uint32_t threat_action;      /* contact_action when a threat is sighted */
+    dlist_node *orders;          /* dlist of heli_order_record *, carried out in order */
+    uint32_t damage_level;       /* damage_level at which damage_action starts */
+    uint32_t fuel_low_action;    /* circumstance_action */
+    uint32_t weapons_low_action; /* circumstance_action */
+    uint32_t damage_action;      /* circumstance_action */
+} waypoint_record;
+EDITOR_CHECK_SIZE(waypoint_record, 76);
+EDITOR_CHECK_OFFSET(waypoint_record, height_level, 32);
+EDITOR_CHECK_OFFSET(waypoint_record, transit_speed, 36);
+EDITOR_CHECK_OFFSET(waypoint_record, carried_a, 40);
+EDITOR_CHECK_OFFSET(waypoint_record, carried_b, 44);
+EDITOR_CHECK_OFFSET(waypoint_record, non_threat_action, 48);
+EDITOR_CHECK_OFFSET(waypoint_record, threat_action, 52);
+EDITOR_CHECK_OFFSET(waypoint_record, orders, 56);
+EDITOR_CHECK_OFFSET(waypoint_record, damage_level, 60);
+EDITOR_CHECK_OFFSET(waypoint_record, fuel_low_action, 64);
+EDITOR_CHECK_OFFSET(waypoint_record, weapons_low_action, 68);
+EDITOR_CHECK_OFFSET(waypoint_record, damage_action, 72);
+
+/* heli_group_record.status values set by List Heli Groups; others are the host's. */
+enum heli_group_status { HELI_GROUP_STATUS_ADDED = 1, HELI_GROUP_STATUS_REMOVED = 2 };
+
+/* A heli group. The host allocates it; the editor relies on these first 56
+ * bytes. The heli group list of request 15 is a dlist of these. */
+typedef struct heli_group_record {
+    uint32_t host_word;             /* never read or written by the editor */
+    char name[32];
+    dlist_node *members;            /* dlist of unit_entry *: the group's units */
+    uint32_t rally_point_id;        /* the id of one rally_point_entry */
+    dlist_node *waypoints;          /* dlist of waypoint_record *: the route, in flying order */
+    heli_order_record *in_transit;  /* the sarges carried at the start; its kind is the host's choice */
+    uint32_t status;                /* heli_group_status, or the host's own value */
+} heli_group_record;
+EDITOR_CHECK_SIZE(heli_group_record, 56);
+EDITOR_CHECK_OFFSET(heli_group_record, name, 4);
+EDITOR_CHECK_OFFSET(heli_group_record, members, 36);
+EDITOR_CHECK_OFFSET(heli_group_record, rally_point_id, 40);
+EDITOR_CHECK_OFFSET(heli_group_record, waypoints, 44);
+EDITOR_CHECK_OFFSET(heli_group_record, in_transit, 48);
+EDITOR_CHECK_OFFSET(heli_group_record, status, 52);
+
+/* A node value of the host_rally_point_list list: laid out like a unit_entry,
+ * of which the editor reads the name and the id. */
+typedef struct rally_point_entry {
+    char name[32];
+    char host_bytes[32]; /* the host's */
+    uint32_t id;
+} rally_point_entry;
+EDITOR_CHECK_SIZE(rally_point_entry, 68);
+EDITOR_CHECK_OFFSET(rally_point_entry, id, 64);
+
+/* The available_units list of requests 14 and 15 is a dlist of unit_entry *
+ * (the record of the ground forces above); units move between it and a heli
+ * group's members as fresh 68-byte entries. */
+
 /* --- Air support ---------------------------------------------------------- */
 
 /* ======================================================================== */
