@@ -78,12 +78,7 @@ void update(HWND dialog) {
 }
 
 void delete_selected(HWND dialog) {
-    deploy_entry *entry = selected_entry(dialog);
-    dlist_node *node = entry ? dlist_find(entries, dlist_value(entry)) : nullptr;
-    if (!node) return;
-    dlist_remove_node(node);
-    host_delete(entry);
-    refresh(dialog);
+    if (remove_entry(entries, selected_entry(dialog))) refresh(dialog);
 }
 
 // A double-click puts the line's entry into the edits.
