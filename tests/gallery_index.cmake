@@ -1,7 +1,8 @@
 # Runs the host's tour into a fresh folder and checks the gallery a designer
 # opens: the run is clean (no tour problem, nothing wrong in the allocator
 # report), the index names every picture in the folder exactly once with a
-# caption, and every picture it names is a PNG of the size it states.
+# numbered caption, in tour order within each window's section, and every
+# picture it names is a PNG of the size it states.
 # Arguments: -DRUN=<emulator> -DHOST=<editor_host.exe> -DGALLERY=<folder>
 cmake_minimum_required(VERSION 3.20)
 file(REMOVE_RECURSE "${GALLERY}")
@@ -22,10 +23,16 @@ set(index "${GALLERY}/index.html")
 if(NOT EXISTS "${index}")
     message(FATAL_ERROR "no index.html in ${GALLERY}\n${failures}\n${output}\n${errors}")
 endif()
-# One figure a line: picture, stated size, caption.
-file(STRINGS "${index}" figures REGEX "<figure ")
+# One figure a line: picture, stated size, caption with the tour's running
+# number.
+file(STRINGS "${index}" figures REGEX "<figure |<section ")
 set(named "")
+set(numbers "")
 foreach(figure IN LISTS figures)
+    if(figure MATCHES "^<section ")
+        set(previous 0)
+        continue()
+    endif()
     if(NOT figure MATCHES "<img src=\"([^\"]+)\" width=\"([0-9]+)\" height=\"([0-9]+)\"")
         list(APPEND failures "a figure without a picture: ${figure}")
         continue()
@@ -37,9 +44,15 @@ foreach(figure IN LISTS figures)
         list(APPEND failures "${picture} is in the index twice")
     endif()
     list(APPEND named "${picture}")
-    # A caption beyond the running number and the file name.
-    if(NOT figure MATCHES "<figcaption>[0-9]+\\. [^<]*[A-Za-z][^<]* <span")
-        list(APPEND failures "${picture} has no caption")
+    # The running number, then words before the file name.
+    if(figure MATCHES "<figcaption>([0-9]+)\\. [^<]*[A-Za-z][^<]* <span")
+        if(NOT CMAKE_MATCH_1 GREATER previous)
+            list(APPEND failures "${picture}: number ${CMAKE_MATCH_1} comes after ${previous} in its section")
+        endif()
+        set(previous ${CMAKE_MATCH_1})
+        list(APPEND numbers ${CMAKE_MATCH_1})
+    else()
+        list(APPEND failures "${picture} has no numbered caption")
     endif()
     if(NOT EXISTS "${GALLERY}/${picture}")
         list(APPEND failures "${picture} is in the index but not in the folder")
@@ -70,6 +83,16 @@ endforeach()
 list(LENGTH named count)
 if(count EQUAL 0)
     list(APPEND failures "the index names no picture")
+else()
+    # Every step of the tour is numbered once.
+    list(SORT numbers COMPARE NATURAL)
+    set(expected "")
+    foreach(n RANGE 1 ${count})
+        list(APPEND expected ${n})
+    endforeach()
+    if(NOT numbers STREQUAL expected)
+        list(APPEND failures "the pictures are not numbered 1 to ${count} once each: ${numbers}")
+    endif()
 endif()
 
 if(failures)
