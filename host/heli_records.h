@@ -52,6 +52,12 @@ public:
     // in-transit order.
     void destroy_heli_group(heli_group_record *group);
 
+    // Frees a list with the records in it: orders, waypoints, or 68-byte
+    // unit entries. Null is ignored.
+    void destroy_orders(dlist_node *orders);
+    void destroy_waypoints(dlist_node *waypoints);
+    void free_units(dlist_node *units);
+
     // Lists in host memory: 12-byte nodes. free_list frees nodes only.
     dlist_node *new_list();
     bool append(dlist_node *head, const void *value);
@@ -99,10 +105,6 @@ private:
     void free_body(heli_order_record &order);
     // Frees a tracked order whole; false when it was not live.
     bool discard(heli_order_record *order);
-    // Frees a list of orders (or waypoints) and the records in it.
-    void destroy_orders(dlist_node *orders);
-    void destroy_waypoints(dlist_node *waypoints);
-    void free_units(dlist_node *units);
     // Frees a tracked waypoint or group whole; false when it was not live.
     bool discard(waypoint_record *waypoint);
     bool discard(heli_group_record *group);
