@@ -245,6 +245,20 @@ namespace {
 uint32_t &tail_word(void *record, uint32_t editor_size) {
     return *reinterpret_cast<uint32_t *>(static_cast<char *>(record) + editor_size);
 }
+
+// Appends a copy of each value of `from` to `to` (null values stay null);
+// false when a copy or a node cannot be had, the unlisted copy given back.
+template <class T, class Copy, class Release>
+bool copy_values(heli_records &records, const dlist_node *from, dlist_node *to, Copy copy, Release release) {
+    for (const dlist_node *node = from->next; node != from; node = node->next) {
+        T *value = node->value ? copy(*as<T>(node)) : nullptr;
+        if ((node->value && !value) || !records.append(to, value)) {
+            if (value) release(value);
+            return false;
+        }
+    }
+    return true;
+}
 }  // namespace
 
 void heli_records::destroy_orders(dlist_node *orders) {
@@ -289,13 +303,10 @@ waypoint_record *heli_records::copy_waypoint(const waypoint_record &source) {
     copy->orders = new_list();
     track(copy, "waypoint");
     bool whole = copy->orders != nullptr;
-    if (whole && source.orders) {
-        for (const dlist_node *node = source.orders->next; whole && node != source.orders; node = node->next) {
-            heli_order_record *order = node->value ? copy_order(*as<heli_order_record>(node)) : nullptr;
-            whole = (order || !node->value) && append(copy->orders, order);
-            if (!whole && order) destroy_order(order);
-        }
-    }
+    if (whole && source.orders)
+        whole = copy_values<heli_order_record>(
+            *this, source.orders, copy->orders, [&](const heli_order_record &o) { return copy_order(o); },
+            [&](heli_order_record *o) { destroy_order(o); });
     if (!whole) {
         discard(copy);
         return nullptr;
@@ -359,21 +370,19 @@ heli_group_record *heli_records::copy_heli_group(const heli_group_record &source
     copy->in_transit = nullptr;
     track(copy, "heli group");
     bool whole = true;
-    if (source.members && (whole = (copy->members = new_list()) != nullptr)) {
-        for (const dlist_node *node = source.members->next; whole && node != source.members; node = node->next) {
-            void *unit = node->value ? alloc(sizeof(unit_entry)) : nullptr;
-            if (unit) std::memcpy(unit, as<void>(node), sizeof(unit_entry));
-            whole = (unit || !node->value) && append(copy->members, unit);
-            if (!whole && unit) memory_.free(unit, sizeof(unit_entry));
-        }
-    }
-    if (whole && source.waypoints && (whole = (copy->waypoints = new_list()) != nullptr)) {
-        for (const dlist_node *node = source.waypoints->next; whole && node != source.waypoints; node = node->next) {
-            waypoint_record *waypoint = node->value ? copy_waypoint(*as<waypoint_record>(node)) : nullptr;
-            whole = (waypoint || !node->value) && append(copy->waypoints, waypoint);
-            if (!whole && waypoint) destroy_waypoint(waypoint);
-        }
-    }
+    if (source.members && (whole = (copy->members = new_list()) != nullptr))
+        whole = copy_values<unit_entry>(
+            *this, source.members, copy->members,
+            [&](const unit_entry &u) {
+                auto *unit = static_cast<unit_entry *>(alloc(sizeof u));
+                if (unit) *unit = u;
+                return unit;
+            },
+            [&](unit_entry *u) { memory_.free(u, sizeof *u); });
+    if (whole && source.waypoints && (whole = (copy->waypoints = new_list()) != nullptr))
+        whole = copy_values<waypoint_record>(
+            *this, source.waypoints, copy->waypoints, [&](const waypoint_record &w) { return copy_waypoint(w); },
+            [&](waypoint_record *w) { destroy_waypoint(w); });
     if (whole && source.in_transit) whole = (copy->in_transit = copy_order(*source.in_transit)) != nullptr;
     if (!whole) {
         discard(copy);
