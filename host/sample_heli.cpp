@@ -123,6 +123,15 @@ void free_all() {
         host_list_free(available);
         available = nullptr;
     }
+    // What the host's store made, copied and destroyed over the run; any
+    // record not destroyed exactly once is reported after this.
+    const heli_records &h = app().heli;
+    char line[200];
+    std::snprintf(line, sizeof line,
+                  "heli records: orders %d made, %d copied, %d destroyed; waypoints %d, %d, %d; groups %d, %d, %d",
+                  h.creates, h.copies, h.destroys, h.waypoint_counts.creates, h.waypoint_counts.copies,
+                  h.waypoint_counts.destroys, h.group_counts.creates, h.group_counts.copies, h.group_counts.destroys);
+    app().log(line);
 }
 
 LRESULT CALLBACK watch_main_window(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
