@@ -7,8 +7,9 @@
 #include "editor_api.h"
 #include "util/dlist.h"
 
-// Also start and tidy up Edit Waypoints and Edit Waypoint, which only this
-// module opens.
+// Also start and tidy up the other helicopter dialogs, which have no place
+// of their own in the start order: Edit Waypoints and Edit Waypoint (opened
+// only from here) and List Heli Groups (which opens this dialog).
 int heli_group_start();
 int heli_group_tidyup();
 
