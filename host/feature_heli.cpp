@@ -56,27 +56,34 @@ void tour() {
     ui_driver d;
     d.then("List Heli Groups", [](HWND dlg) {
         ui_list_select_index(dlg, IDC_LHG_GROUPS, 0);
-        tour_screenshot(dlg, "list_heli_groups");
+        tour_screenshot(dlg, "List Heli Groups", "list_heli_groups",
+                        "Heli menu, List heli groups (request 15) over the sample's heli groups (the removed one is "
+                        "not listed).");
         ui_command(dlg, IDC_LHG_EDIT);
     });
     d.then("Edit Heli Group", [](HWND dlg) {
         ui_list_select_index(dlg, IDC_HG_AVAILABLE, 1);
-        tour_screenshot(dlg, "edit_heli_group");
+        tour_screenshot(dlg, "Edit Heli Group", "edit_heli_group",
+                        "List Heli Groups, Edit on the first group (a copy): its members, the available "
+                        "helicopters and its rally point.");
         ui_command(dlg, IDC_HG_EDIT_WAYPOINTS);
     });
     d.then("Edit Waypoints", [](HWND dlg) {
         ui_list_select_index(dlg, IDC_WPS_LIST, 0);
-        tour_screenshot(dlg, "edit_waypoints");
+        tour_screenshot(dlg, "Edit Waypoints", "edit_waypoints",
+                        "Edit Heli Group, Edit Waypoints: the group's route, copied.");
         ui_command(dlg, IDC_WPS_EDIT);
     });
     d.then("Edit Waypoint", [](HWND dlg) {
-        tour_screenshot(dlg, "edit_waypoint");
+        tour_screenshot(dlg, "Edit Waypoint", "edit_waypoint",
+                        "Edit Waypoints, Edit on the first waypoint (a copy): marker, height, speed in km/h, "
+                        "behaviour and its orders.");
         ui_command(dlg, IDCANCEL);
     });
     for (const char *title : {"Edit Waypoints", "Edit Heli Group", "List Heli Groups"})
         d.then(title, [](HWND dlg) { ui_command(dlg, IDCANCEL); });
     app().window(REQUEST_LIST_HELI_GROUPS, arg(sample_heli_groups()), arg(sample_available_units()));
-    if (!d.ok()) app().log("tour problem: " + d.failures());
+    tour_check(d);
 }
 }  // namespace
 
