@@ -1,9 +1,12 @@
 #include "editor/requests.h"
 
+#include "editor/editor.h"
 #include "editor_api.h"
 #include "ground/group_composition.h"
 #include "ground/group_list.h"
 #include "ground/object_names.h"
+#include "heli/heli_group.h"
+#include "heli/heli_group_list.h"
 #include "placement/create_objects.h"
 #include "resources/string_ids.h"
 #include "util/dialogs.h"
@@ -40,6 +43,15 @@ int object_names(uintptr_t units, uintptr_t) {
 
 int group_list(uintptr_t groups, uintptr_t) { return list_groups(reinterpret_cast<dlist_node *>(groups)); }
 
+int edit_heli_group_request(uintptr_t group, uintptr_t available) {
+    return edit_heli_group(editor_main_window(), reinterpret_cast<heli_group_record *>(group),
+                           reinterpret_cast<dlist_node *>(available));
+}
+
+int list_heli_groups_request(uintptr_t groups, uintptr_t available) {
+    return list_heli_groups(reinterpret_cast<dlist_node *>(groups), reinterpret_cast<dlist_node *>(available));
+}
+
 // Indexed by request code. A null entry is a dialog not built yet: it answers 0.
 const request_handler handlers[] = {
     message_box,                                 // REQUEST_MESSAGE_BOX
@@ -56,8 +68,8 @@ const request_handler handlers[] = {
     group_list,                                  // REQUEST_GROUP_LIST
     nullptr,                                     // REQUEST_BOMBING_RUN
     nullptr,                                     // REQUEST_RALLY_POINT
-    nullptr,                                     // REQUEST_EDIT_HELI_GROUP
-    nullptr,                                     // REQUEST_LIST_HELI_GROUPS
+    edit_heli_group_request,                     // REQUEST_EDIT_HELI_GROUP
+    list_heli_groups_request,                    // REQUEST_LIST_HELI_GROUPS
 };
 static_assert(sizeof handlers / sizeof handlers[0] == 16, "one handler per request code");
 }  // namespace

@@ -4,6 +4,7 @@
 #include "ground/group_composition.h"
 
 #include <unordered_map>
+#include <unordered_set>
 
 #include "editor/editor.h"
 #include "ground/group_orders.h"
@@ -24,22 +25,24 @@ group_record *edited = nullptr;
 dlist *group_list = nullptr;
 int member_lines = 0;
 
-bool has_member(const dlist *members, int32_t id) {
+void collect_ids(const dlist *members, std::unordered_set<int32_t> &ids) {
     for (unit_entry *member : dlist_values<unit_entry>(members))
-        if (member && member->id == id) return true;
-    return false;
+        if (member) ids.insert(member->id);
 }
 
-// A unit is taken when a listed, not removed group other than the edited one
-// holds it, or when the working copy holds it.
-bool unit_taken(const unit_entry &unit) {
+// The ids of the units that are taken: held by a listed, not removed group
+// other than the edited one, or by the working copy. Gathered once per refill,
+// so the refill costs the size of the lists, not their product.
+std::unordered_set<int32_t> taken_unit_ids() {
+    std::unordered_set<int32_t> ids;
     if (group_list) {
         for (group_record *group : dlist_values<group_record>(group_list)) {
             if (!group || group == edited || group->status == GROUP_STATUS_REMOVED) continue;
-            if (has_member(group->members, unit.id)) return true;
+            collect_ids(group->members, ids);
         }
     }
-    return has_member(working.members, unit.id);
+    collect_ids(working.members, ids);
+    return ids;
 }
 
 void add_unit_line(HWND list, const unit_entry &unit) {
@@ -54,8 +57,9 @@ bool fill_available_units(HWND dialog) {
     // Both kinds of list go back through the unit list operation.
     held_list units(group_list ? host().host_unit_list : host().host_unit_list_standalone, host().host_unit_list);
     if (!units) return false;
+    const std::unordered_set<int32_t> taken = taken_unit_ids();
     for (unit_entry *unit : dlist_values<unit_entry>(units.get())) {
-        if (unit && !unit_taken(*unit)) add_unit_line(list, *unit);
+        if (unit && !taken.count(unit->id)) add_unit_line(list, *unit);
     }
     if (!units.release()) {
         SendMessageA(list, LB_RESETCONTENT, 0, 0);
@@ -141,15 +145,16 @@ void add_selected_units(HWND dialog) {
 void remove_selected_members(HWND dialog) {
     if (member_lines == 0) return;
     selected_lines selection(GetDlgItem(dialog, IDC_GC_MEMBERS), static_cast<uint32_t>(member_lines));
-    selection.for_each_data([](LRESULT data) {
-        for (dlist_node *node : dlist_nodes(working.members)) {
-            auto *member = reinterpret_cast<unit_entry *>(node->value);
-            if (!member || member->id != static_cast<int32_t>(data)) continue;
-            dlist_remove_node(node);
-            host_delete(member);
-            return;
-        }
-    });
+    // The first member of each selected id leaves, in one walk of the members.
+    std::unordered_set<int32_t> leaving;
+    selection.for_each_data([&](LRESULT data) { leaving.insert(static_cast<int32_t>(data)); });
+    for (dlist_node *node : dlist_nodes(working.members)) {
+        if (leaving.empty()) break;
+        auto *member = reinterpret_cast<unit_entry *>(node->value);
+        if (!member || !leaving.erase(member->id)) continue;
+        dlist_remove_node(node);
+        host_delete(member);
+    }
     fill_group_members(dialog);
     fill_available_units(dialog);
 }

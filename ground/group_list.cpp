@@ -5,7 +5,8 @@
 
 #include <climits>
 #include <cstdio>
-#include <cstring>
+#include <string>
+#include <unordered_set>
 
 #include "editor/editor.h"
 #include "ground/group_composition.h"
@@ -20,12 +21,6 @@
 namespace {
 module_flag module;
 dlist *group_list = nullptr;
-
-bool name_taken(const dlist *groups, const char *name) {
-    for (group_record *group : dlist_values<group_record>(groups))
-        if (group && std::strncmp(group->name, name, sizeof group->name) == 0) return true;
-    return false;
-}
 
 void fill_group_list(HWND dialog) {
     HWND list = GetDlgItem(dialog, IDC_GL_GROUPS);
@@ -113,11 +108,19 @@ const dialog_class group_list_dialog = {on_init, on_command, nullptr, nullptr, T
 }  // namespace
 
 void automatic_group_name(const dlist_node *groups, char (&name)[32]) {
+    // Every name in the list, removed groups' included, gathered once.
+    std::unordered_set<std::string> taken;
+    for (group_record *group : dlist_values<group_record>(groups)) {
+        if (!group) continue;
+        char existing[32];
+        copy_field(existing, group->name);
+        taken.insert(existing);
+    }
     // Past sarge998 the count simply goes on (sarge999, sarge1000, ...): a
     // finite list always leaves a free name, and every such name fits.
     for (int n = 0; n < INT_MAX; ++n) {
         std::snprintf(name, sizeof name, "sarge%d", n);
-        if (!name_taken(groups, name)) return;
+        if (!taken.count(name)) return;
     }
 }
 

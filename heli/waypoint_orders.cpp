@@ -10,6 +10,7 @@
 
 #include "editor/editor.h"
 #include "heli_orders/heli_order.h"
+#include "resources/heli_ids.h"
 #include "resources/heli_order_ids.h"
 #include "util/controls.h"
 #include "util/dialogs.h"
@@ -60,7 +61,7 @@ int select_order_type(HWND owner, uint32_t *kind) {
 
 // --- The Waypoint Orders list ------------------------------------------------------
 void fill_waypoint_order_list(HWND dialog, const waypoint_record *waypoint) {
-    HWND list = GetDlgItem(dialog, IDC_WPO_ORDERS);
+    HWND list = GetDlgItem(dialog, IDC_WP_ORDERS);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
     if (!waypoint) return;
     // An order of an unknown kind gets no line, so it can be neither edited
@@ -75,7 +76,7 @@ void fill_waypoint_order_list(HWND dialog, const waypoint_record *waypoint) {
 namespace {
 // The selected line's order, found by the line's item data, never its place.
 heli_order_record *selected_order(HWND dialog) {
-    return list_selected<heli_order_record>(GetDlgItem(dialog, IDC_WPO_ORDERS));
+    return list_selected<heli_order_record>(GetDlgItem(dialog, IDC_WP_ORDERS));
 }
 
 void destroy_order(heli_order_record *order) { host().host_order_destroy(&order); }
@@ -134,18 +135,18 @@ bool remove_order(HWND dialog, dlist *orders) {
 
 bool waypoint_order_command(HWND dialog, waypoint_record *waypoint, int id, int code, void (*reload)(HWND dialog)) {
     const bool click = code == BN_CLICKED;
-    const bool handled = (click && (id == IDC_WPO_ADD || id == IDC_WPO_INSERT || id == IDC_WPO_EDIT ||
-                                    id == IDC_WPO_REMOVE)) ||
-                         (id == IDC_WPO_ORDERS && code == LBN_DBLCLK);
+    const bool handled = (click && (id == IDC_WP_ORDER_ADD || id == IDC_WP_ORDER_INSERT || id == IDC_WP_ORDER_EDIT ||
+                                    id == IDC_WP_ORDER_REMOVE)) ||
+                         (id == IDC_WP_ORDERS && code == LBN_DBLCLK);
     if (!handled || !waypoint || !waypoint->orders) return handled;
     dlist *orders = waypoint->orders;
     bool changed = false;
     switch (id) {
-    case IDC_WPO_ADD: changed = add_order_before(dialog, orders); break;
-    case IDC_WPO_INSERT: changed = insert_order(dialog, orders); break;
-    case IDC_WPO_EDIT:
-    case IDC_WPO_ORDERS: changed = edit_order(dialog, orders); break;
-    case IDC_WPO_REMOVE: changed = remove_order(dialog, orders); break;
+    case IDC_WP_ORDER_ADD: changed = add_order_before(dialog, orders); break;
+    case IDC_WP_ORDER_INSERT: changed = insert_order(dialog, orders); break;
+    case IDC_WP_ORDER_EDIT:
+    case IDC_WP_ORDERS: changed = edit_order(dialog, orders); break;
+    case IDC_WP_ORDER_REMOVE: changed = remove_order(dialog, orders); break;
     }
     if (changed && reload) reload(dialog);
     return true;

@@ -88,10 +88,23 @@ int number_too_large() {
 }
 
 void tour() {
-    tour_modal("Create New Objects", "create_objects", all_enabled);
-    tour_modal("Create New Objects", "create_objects_grunit_fixed", grunit_number_fixed);
-    tour_modal("Create New Objects", "create_objects_preset", everything_preset);
-    tour_modal("Create New Objects", "create_objects_placement_only", placement_only);
+    const char *const group = "Create New Objects";
+    tour_modal(group, group, "create_objects",
+               "Objects menu, Create objects (all enabled) (request 4): every field offered, nothing preset; "
+               "the reference list holds the sample's World objects.",
+               all_enabled);
+    tour_modal(group, group, "create_objects_grunit_fixed",
+               "Objects menu, Create objects (type preset to Grunit, number fixed): type and number shown but not "
+               "offered; the reference list holds the sample's Grunits.",
+               grunit_number_fixed);
+    tour_modal(group, group, "create_objects_preset",
+               "Objects menu, Create objects (everything preset): Gralls, Tank1, 4 objects 25 m apart, 80 m from "
+               "the camera, aligned on Z, oriented on Y.",
+               everything_preset);
+    tour_modal(group, group, "create_objects_placement_only",
+               "Objects menu, Create objects (camera distance and orientation only): the other fields are not "
+               "offered, so type and reference stay empty.",
+               placement_only);
 }
 }  // namespace
 

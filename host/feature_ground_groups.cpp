@@ -60,28 +60,34 @@ void edit_group(bool with_list) {
 void tour() {
     ui_driver d;
     d.then("Group List", [](HWND dlg) {
-        tour_screenshot(dlg, "group_list");
-        ui_command(dlg, 3);  // Edit: sarge0 is selected
+        tour_screenshot(dlg, "Group List", "group_list",
+                        "Ground menu, Group list (request 11) over the sample's groups: sarge0 and sarge1 (sarge2 is "
+                        "removed and not listed).");
+        ui_command(dlg, IDC_GL_EDIT);  // sarge0 is selected
     });
     d.then("Dialog", [](HWND dlg) {
         ui_list_select_index(dlg, IDC_GC_AVAILABLE, 0);
-        tour_screenshot(dlg, "group_composition");
-        ui_command(dlg, 1086);
+        tour_screenshot(dlg, "Group Composition", "group_composition",
+                        "Group List, Edit on sarge0: its members Tank1 and Tank2, the host's free units to add, "
+                        "type and appearance.");
+        ui_command(dlg, IDC_GC_EDIT_ORDERS);
     });
     d.then("Dialog", [](HWND dlg) {
         ui_list_select_index(dlg, IDC_GO_ORDERS, 1);
-        tour_screenshot(dlg, "group_orders");
-        ui_command(dlg, 1049);
+        tour_screenshot(dlg, "Group Orders", "group_orders",
+                        "Group Composition, Edit Orders on sarge0: its orders Hold and Push, and its contingency "
+                        "orders Dig In and Fall Back.");
+        ui_command(dlg, IDC_GO_ADD);
     });
     d.then("Orders", [](HWND dlg) {
-        tour_screenshot(dlg, "orders");
+        tour_screenshot(dlg, "Orders", "orders", "Group Orders, Add after Push: the order types to choose from.");
         ui_command(dlg, IDCANCEL);
     });
     d.then("Dialog", [](HWND dlg) { ui_command(dlg, IDCANCEL); });
     d.then("Dialog", [](HWND dlg) { ui_command(dlg, IDCANCEL); });
     d.then("Group List", [](HWND dlg) { ui_command(dlg, IDCANCEL); });
     app().window(REQUEST_GROUP_LIST, arg(sample_groups()), 0);
-    if (!d.ok()) app().log("tour problem: " + d.failures());
+    tour_check(d);
 }
 }  // namespace
 

@@ -158,7 +158,10 @@ int open_through_groups(unsigned char *group, int list, int edit, const char *or
     driver.then(group_title, [close](HWND orders) { ui_command(orders, close); });
     driver.then(group_title, [close](HWND composition) { ui_command(composition, close); });
     int result = app().window(REQUEST_GROUP_COMPOSITION, reinterpret_cast<uintptr_t>(group), 0);
-    if (!driver.ok()) app().log("ground orders: " + driver.failures());
+    if (tour)
+        tour_check(driver);
+    else if (!driver.ok())
+        app().log("ground orders: " + driver.failures());
     return result;
 }
 
@@ -219,23 +222,41 @@ int object_names(const std::function<void()> &script = nullptr) {
 }
 
 void tour_orders() {
-    static const char *shots[] = {"sarge_order_halt", "sarge_order_defend", "sarge_order_barrage",
-                                  "sarge_order_advance"};
+    // Each opened as its Developer entry does: request 9 on a scratch group
+    // holding the order, Edit Orders, then the order's Edit.
+    const std::string how = " (request 9 on a scratch group, Edit Orders, Edit): ";
+    struct shot {
+        const char *name;
+        const char *entry;
+        const char *order;
+    };
+    static const shot shots[] = {
+        {"sarge_order_halt", "Sarge order (Halt)", "the Halt order \"hold\", 30 s."},
+        {"sarge_order_defend", "Sarge order (Defend)", "the Defend order \"dig in\", a name only."},
+        {"sarge_order_barrage", "Sarge order (Barrage)", "the Barrage order \"shell bridge\", 120 s on WP_Bridge."},
+        {"sarge_order_advance", "Sarge order (Advance)",
+         "the Advance order \"take bridge\" to WP_Bridge in Wedge, reporting \"bridge taken\" to HQ."},
+    };
     for (size_t i = 0; i < sample_orders().size(); ++i) {
-        const char *name = shots[i];
-        edit_order(i, {[name](HWND dialog) {
-                       tour_screenshot(dialog, name);
+        const shot &s = shots[i];
+        const std::string caption = std::string("Ground menu, Developer: ") + s.entry + how + s.order;
+        edit_order(i, {[&s, &caption](HWND dialog) {
+                       tour_screenshot(dialog, "Sarge Order", s.name, caption);
                        ui_command(dialog, IDCANCEL);
                    }});
     }
     // Damage with an Advance order, then switched to Enemy Close with a Halt.
-    edit_contingency({[](HWND dialog) {
-                          tour_screenshot(dialog, "contingency_damage_advance");
+    const std::string first = "Ground menu, Developer: Contingency order" + how +
+                              "on Damage with 3 survivors, Advance \"fall back\" to LZ_Alpha, then \"regroup\".";
+    edit_contingency({[&first](HWND dialog) {
+                          tour_screenshot(dialog, "Sarge Order (contingency)", "contingency_damage_advance", first);
                           ui_combo_select(dialog, IDC_CT_TRIGGER, "Enemy Close");
                           ui_combo_select(dialog, IDC_CT_ORDER_TYPE, "Halt");
                       },
                       [](HWND dialog) {
-                          tour_screenshot(dialog, "contingency_enemy_close_halt");
+                          tour_screenshot(dialog, "Sarge Order (contingency)", "contingency_enemy_close_halt",
+                                          "The same contingency order with its trigger set to Enemy Close and its "
+                                          "order type to Halt.");
                           ui_command(dialog, IDCANCEL);
                       }});
 }
@@ -243,22 +264,25 @@ void tour_orders() {
 void tour_names() {
     ui_driver driver;
     driver.then("Dialog", [](HWND list) {
-        tour_screenshot(list, "object_names");
-        ui_list_select_index(list, IDC_ON_LIST, 0);
-        ui_command(list, 1067);
+        tour_screenshot(list, "Object Names", "object_names",
+                        "Ground menu, Object names (request 10) over the sample's five objects, the unnamed oak "
+                        "included.");
+        ui_list_select_index(list, IDC_ON_LIST, 2);
+        ui_command(list, IDC_ON_EDIT_NAME);
     });
     driver.then("", [](HWND edit) {
-        tour_screenshot(edit, "edit_name");
+        tour_screenshot(edit, "Edit Name", "edit_name", "Object Names, Edit Name on 103, Tank1.");
         SetDlgItemTextA(edit, IDC_EN_NAME, "Tank2");
         ui_command(edit, IDOK);
     });
     driver.then("Name Error", [](HWND box) {
-        tour_screenshot(box, "edit_name_refused");
+        tour_screenshot(box, "Edit Name", "edit_name_refused",
+                        "Edit Name, OK after renaming Tank1 to Tank2, a name the sample mission already has.");
         ui_command(box, IDOK);
     });
     driver.then("Dialog", [](HWND list) { ui_command(list, IDCANCEL); });
     object_names();
-    if (!driver.ok()) app().log("tour problem: " + driver.failures());
+    tour_check(driver);
 }
 }  // namespace
 

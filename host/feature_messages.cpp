@@ -14,25 +14,34 @@ void custom(int kind, const char *what) {
     app().log(std::string(what) + ": answered " + std::to_string(answer));
 }
 
-void tour_box(const char *title, const char *name, int request, uintptr_t arg1 = 0, uintptr_t arg2 = 0) {
+void tour_box(const char *title, const char *name, const char *caption, int request, uintptr_t arg1 = 0,
+              uintptr_t arg2 = 0) {
     ui_driver driver;
-    driver.then(title, [name](HWND box) {
-        tour_screenshot(box, name);
+    driver.then(title, [name, caption](HWND box) {
+        tour_screenshot(box, "Message boxes", name, caption);
         ui_command(box, GetDlgItem(box, IDYES) ? IDYES : IDOK);
     });
     app().window(request, arg1, arg2);
+    tour_check(driver);
 }
 
 void tour() {
-    tour_box("Editor Question", "message_confirm_quit", REQUEST_CONFIRM_QUIT);
-    tour_box("Editor Error", "message_invalid_selection", REQUEST_INVALID_SELECTION);
-    tour_box("Editor Error", "message_nothing_selected", REQUEST_NOTHING_SELECTED);
-    tour_box("Editor Question", "message_confirm_delete", REQUEST_CONFIRM_DELETE);
-    tour_box("Editor Error", "message_unmatched_group", REQUEST_UNMATCHED_GROUP);
+    tour_box("Editor Question", "message_confirm_quit", "Messages menu, Confirm quit (request 1).",
+             REQUEST_CONFIRM_QUIT);
+    tour_box("Editor Error", "message_invalid_selection", "Messages menu, Invalid selection (request 2).",
+             REQUEST_INVALID_SELECTION);
+    tour_box("Editor Error", "message_nothing_selected", "Messages menu, Nothing selected (request 3).",
+             REQUEST_NOTHING_SELECTED);
+    tour_box("Editor Question", "message_confirm_delete", "Messages menu, Confirm delete (request 7).",
+             REQUEST_CONFIRM_DELETE);
+    tour_box("Editor Error", "message_unmatched_group", "Messages menu, Unmatched group (request 8).",
+             REQUEST_UNMATCHED_GROUP);
     static const char text[] = "Mission saved.";
-    tour_box("Editor Warning", "message_warning", REQUEST_MESSAGE_BOX, reinterpret_cast<uintptr_t>(text), MESSAGE_WARNING);
-    tour_box("Editor Informaiton", "message_information", REQUEST_MESSAGE_BOX, reinterpret_cast<uintptr_t>(text),
-             MESSAGE_INFORMATION);
+    tour_box("Editor Warning", "message_warning", "Request 0 with the host's own text \"Mission saved.\", as a warning.",
+             REQUEST_MESSAGE_BOX, reinterpret_cast<uintptr_t>(text), MESSAGE_WARNING);
+    tour_box("Editor Informaiton", "message_information",
+             "Request 0 with the host's own text \"Mission saved.\", as information.", REQUEST_MESSAGE_BOX,
+             reinterpret_cast<uintptr_t>(text), MESSAGE_INFORMATION);
 }
 }  // namespace
 

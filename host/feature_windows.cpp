@@ -3,6 +3,7 @@
 // for file names to save under.
 #include <cstdio>
 #include <cstring>
+#include <string>
 
 #include "host/host_app.h"
 #include "host/sample_mission.h"
@@ -101,26 +102,45 @@ HWND find_editor_window(bool toolbar) {
     return nullptr;
 }
 
-void tour_save(int request, const char *name) {
+// A folder holding the sample mission's files, so that the save dialogs in
+// the pictures list what a designer would find there.
+std::string sample_files_folder() {
+    std::string folder = app().settings_folder + "Missions";
+    CreateDirectoryA(folder.c_str(), nullptr);
+    for (const char *file : {"sample.mis", "sample.dat", "bridge_crossing.mis", "bridge_crossing.dat"}) {
+        HANDLE h = CreateFileA((folder + "\\" + file).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                               FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (h != INVALID_HANDLE_VALUE) CloseHandle(h);
+    }
+    return folder;
+}
+
+void tour_save(int request, const char *name, const char *caption) {
     ui_driver driver;
-    driver.then("Save Editor File...", [name](HWND dialog) {
-        tour_screenshot(dialog, name);
+    driver.then("Save Editor File...", [name, caption](HWND dialog) {
+        tour_screenshot(dialog, "Save Editor File", name, caption);
         ui_command(dialog, IDCANCEL);
     });
     char buffer[MAX_PATH] = "";
-    GetCurrentDirectoryA(sizeof buffer, buffer);
+    std::snprintf(buffer, sizeof buffer, "%s", sample_files_folder().c_str());
     app().window(request, reinterpret_cast<uintptr_t>(buffer), sizeof buffer);
-    if (!driver.ok()) app().log("tour problem: " + driver.failures());
+    tour_check(driver);
 }
 
 void tour() {
     host_app &a = app();
+    // Mode menu entries for edit modes 0 to 4, and where each mode's button sits.
+    static const char *const keys[] = {"Ctrl+1", "Ctrl+3", "Ctrl+5", "Ctrl+9", "Ctrl+0"};
+    static const char *const places[] = {"first", "second", "third", "fifth", "fourth"};
     for (int mode = 0; mode < 5; ++mode) {
         a.state.edit_mode = mode;
         a.state.edit_submode = 1;
         a.send_state();
         pump();
-        tour_screenshot(find_editor_window(true), "toolbar_mode_" + std::to_string(mode));
+        std::string m = std::to_string(mode);
+        tour_screenshot(find_editor_window(true), "Toolbar", "toolbar_mode_" + m,
+                        "Mode menu, Mode " + m + ", sub-mode 1 (" + keys[mode] + "): editor_update reports edit mode " +
+                            m + " and the toolbar marks its " + places[mode] + " button.");
     }
     a.state.edit_mode = 0;
     a.send_state();
@@ -133,19 +153,29 @@ void tour() {
     struct selection {
         void (*select)();
         const char *name;
+        const char *caption;
     };
-    const selection selections[] = {{select_tree, "status_object_shape"},
-                                    {select_tank, "status_object_named"},
-                                    {select_bridge, "status_object_unattached"},
-                                    {select_terrain, "status_terrain"},
-                                    {select_nothing, "status_nothing"}};
+    const selection selections[] = {
+        {select_tree, "status_object_shape",
+         "Selection menu, Object with id and shape (101): the unnamed oak at (120.5, 2.5, -48.25) shows its id and shape."},
+        {select_tank, "status_object_named",
+         "Selection menu, Named object in a group (Tank1): Tank1 of group sarge0 at (310, 2.5, 75.75), turned 90 degrees."},
+        {select_bridge, "status_object_unattached",
+         "Selection menu, Named unattached object (Bridge1): Bridge1, in no group, at (-42, 2.5, 200), turned 180 degrees."},
+        {select_terrain, "status_terrain",
+         "Selection menu, Terrain point: the ground at (64, 2.34, 8) with its normal (0.12, 0.98, 0.05)."},
+        {select_nothing, "status_nothing", "Selection menu, Nothing: with no selection the info line stays empty."}};
     for (const selection &s : selections) {
         s.select();
         pump();
-        tour_screenshot(find_editor_window(false), s.name);
+        tour_screenshot(find_editor_window(false), "Status", s.name, s.caption);
     }
-    tour_save(REQUEST_SAVE_WORLD_FILE, "save_world_file");
-    tour_save(REQUEST_SAVE_MISSION_FILE, "save_mission_file");
+    tour_save(REQUEST_SAVE_WORLD_FILE, "save_world_file",
+              "File menu, Save World... (request 5), starting in a folder with the sample's world and mission files: "
+              "the world files (*.dat) are listed.");
+    tour_save(REQUEST_SAVE_MISSION_FILE, "save_mission_file",
+              "File menu, Save Mission... (request 6), starting in the same folder: the mission files (*.mis) are "
+              "listed.");
 }
 }  // namespace
 

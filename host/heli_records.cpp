@@ -239,6 +239,172 @@ void heli_records::destroy_order(heli_order_record *order) {
     if (discard(order)) ++destroys;
 }
 
+// --- Waypoints ---------------------------------------------------------------
+
+namespace {
+uint32_t &tail_word(void *record, uint32_t editor_size) {
+    return *reinterpret_cast<uint32_t *>(static_cast<char *>(record) + editor_size);
+}
+
+// Appends a copy of each value of `from` to `to` (null values stay null);
+// false when a copy or a node cannot be had, the unlisted copy given back.
+template <class T, class Copy, class Release>
+bool copy_values(heli_records &records, const dlist_node *from, dlist_node *to, Copy copy, Release release) {
+    for (const dlist_node *node = from->next; node != from; node = node->next) {
+        T *value = node->value ? copy(*as<T>(node)) : nullptr;
+        if ((node->value && !value) || !records.append(to, value)) {
+            if (value) release(value);
+            return false;
+        }
+    }
+    return true;
+}
+}  // namespace
+
+void heli_records::destroy_orders(dlist_node *orders) {
+    if (!orders) return;
+    for (dlist_node *node = orders->next; node != orders; node = node->next)
+        if (node->value) destroy_order(as<heli_order_record>(node));
+    free_list(orders);
+}
+
+waypoint_record *heli_records::create_waypoint() {
+    if (refuse_waypoint_create) return nullptr;
+    auto *waypoint = static_cast<waypoint_record *>(alloc(waypoint_size));
+    if (!waypoint) return nullptr;
+    waypoint->orders = new_list();
+    if (!waypoint->orders) {
+        memory_.free(waypoint, waypoint_size);
+        return nullptr;
+    }
+    // The host's defaults: low and at 100 km/h, engage threats only, PMC
+    // damage sends the group to its rally point, low fuel sends it home.
+    waypoint->height_level = HEIGHT_LOW;
+    waypoint->transit_speed = 27.7778f;
+    waypoint->carried_a = 0xCA;
+    waypoint->carried_b = 0xCB;
+    waypoint->non_threat_action = CONTACT_BYPASS;
+    waypoint->threat_action = CONTACT_ENGAGE;
+    waypoint->damage_level = DAMAGE_PMC;
+    waypoint->fuel_low_action = ACTION_GO_HOME;
+    waypoint->weapons_low_action = ACTION_CONTINUE;
+    waypoint->damage_action = ACTION_USE_RALLY_POINT;
+    tail_word(waypoint, sizeof(waypoint_record)) = host_tail;
+    track(waypoint, "waypoint");
+    ++waypoint_counts.creates;
+    return waypoint;
+}
+
+waypoint_record *heli_records::copy_waypoint(const waypoint_record &source) {
+    if (refuse_waypoint_copy) return nullptr;
+    auto *copy = static_cast<waypoint_record *>(alloc(waypoint_size));
+    if (!copy) return nullptr;
+    std::memcpy(copy, &source, waypoint_size);
+    copy->orders = new_list();
+    track(copy, "waypoint");
+    bool whole = copy->orders != nullptr;
+    if (whole && source.orders)
+        whole = copy_values<heli_order_record>(
+            *this, source.orders, copy->orders, [&](const heli_order_record &o) { return copy_order(o); },
+            [&](heli_order_record *o) { destroy_order(o); });
+    if (!whole) {
+        discard(copy);
+        return nullptr;
+    }
+    ++waypoint_counts.copies;
+    return copy;
+}
+
+bool heli_records::discard(waypoint_record *waypoint) {
+    if (!waypoint || !untrack(waypoint, "waypoint")) return false;
+    destroy_orders(waypoint->orders);
+    memory_.free(waypoint, waypoint_size);
+    return true;
+}
+
+void heli_records::destroy_waypoint(waypoint_record *waypoint) {
+    if (discard(waypoint)) ++waypoint_counts.destroys;
+}
+
+// --- Heli groups ---------------------------------------------------------------
+
+void heli_records::destroy_waypoints(dlist_node *waypoints) {
+    if (!waypoints) return;
+    for (dlist_node *node = waypoints->next; node != waypoints; node = node->next)
+        if (node->value) destroy_waypoint(as<waypoint_record>(node));
+    free_list(waypoints);
+}
+
+void heli_records::free_units(dlist_node *units) {
+    if (!units) return;
+    for (dlist_node *node = units->next; node != units; node = node->next)
+        if (node->value) memory_.free(as<void>(node), sizeof(unit_entry));
+    free_list(units);
+}
+
+heli_group_record *heli_records::create_heli_group() {
+    if (refuse_group_create) return nullptr;
+    auto *group = static_cast<heli_group_record *>(alloc(heli_group_size));
+    if (!group) return nullptr;
+    group->host_word = 0x48454C49;
+    std::strcpy(group->name, "NewHeliGroup");
+    tail_word(group, sizeof(heli_group_record)) = host_tail;
+    track(group, "heli group");
+    group->members = new_list();
+    group->waypoints = new_list();
+    group->in_transit = create_order(in_transit_kind);
+    if (!group->members || !group->waypoints || !group->in_transit) {
+        discard(group);
+        return nullptr;
+    }
+    ++group_counts.creates;
+    return group;
+}
+
+heli_group_record *heli_records::copy_heli_group(const heli_group_record &source) {
+    if (refuse_group_copy) return nullptr;
+    auto *copy = static_cast<heli_group_record *>(alloc(heli_group_size));
+    if (!copy) return nullptr;
+    std::memcpy(copy, &source, heli_group_size);
+    copy->members = copy->waypoints = nullptr;
+    copy->in_transit = nullptr;
+    track(copy, "heli group");
+    bool whole = true;
+    if (source.members && (whole = (copy->members = new_list()) != nullptr))
+        whole = copy_values<unit_entry>(
+            *this, source.members, copy->members,
+            [&](const unit_entry &u) {
+                auto *unit = static_cast<unit_entry *>(alloc(sizeof u));
+                if (unit) *unit = u;
+                return unit;
+            },
+            [&](unit_entry *u) { memory_.free(u, sizeof *u); });
+    if (whole && source.waypoints && (whole = (copy->waypoints = new_list()) != nullptr))
+        whole = copy_values<waypoint_record>(
+            *this, source.waypoints, copy->waypoints, [&](const waypoint_record &w) { return copy_waypoint(w); },
+            [&](waypoint_record *w) { destroy_waypoint(w); });
+    if (whole && source.in_transit) whole = (copy->in_transit = copy_order(*source.in_transit)) != nullptr;
+    if (!whole) {
+        discard(copy);
+        return nullptr;
+    }
+    ++group_counts.copies;
+    return copy;
+}
+
+bool heli_records::discard(heli_group_record *group) {
+    if (!group || !untrack(group, "heli group")) return false;
+    free_units(group->members);
+    destroy_waypoints(group->waypoints);
+    if (group->in_transit) destroy_order(group->in_transit);
+    memory_.free(group, heli_group_size);
+    return true;
+}
+
+void heli_records::destroy_heli_group(heli_group_record *group) {
+    if (discard(group)) ++group_counts.destroys;
+}
+
 std::vector<std::string> heli_records::report() const {
     std::vector<std::string> all = problems;
     for (const auto &record : live) {
@@ -253,4 +419,5 @@ void heli_records::forget() {
     live.clear();
     problems.clear();
     creates = copies = destroys = 0;
+    waypoint_counts = group_counts = tally{};
 }

@@ -14,6 +14,8 @@
 #include "host/heli_records.h"
 #include "host/editor_exports.h"
 
+class ui_driver;
+
 struct host_app : editor_exports {
     HWND main_window = nullptr;
     HWND log_view = nullptr;
@@ -53,9 +55,17 @@ const std::vector<host_feature> &host_features();
 #define HOST_FEATURE(...) \
     static const int HOST_FEATURE_CONCAT(host_feature_, __LINE__) = register_host_feature(host_feature{__VA_ARGS__})
 
-// Saves a PNG picture of a window under the gallery folder (tour mode only).
-void tour_screenshot(HWND window, const std::string &name);
-// Shows a dialog the host owns for a moment, screenshots it under `name`, and
-// closes it with `close_id` (IDCANCEL by default); for use inside tour functions.
-// Runs `open` (which shows a modal window titled `title`).
-int tour_modal(const std::string &title, const std::string &name, int (*open)(), int close_id = IDCANCEL);
+// --- The tour ----------------------------------------------------------------------
+// Saves a PNG picture of a window under the gallery folder as <name>.png and
+// lists it in the gallery's index under `group` (the window it shows), with
+// `caption`: which request, menu or button opened it, and with what sample
+// data. Tour mode only; a window that cannot be saved is a tour problem.
+void tour_screenshot(HWND window, const std::string &group, const std::string &name, const std::string &caption);
+// Runs `open`, which shows a modal window titled `title`; screenshots that
+// window as above and closes it with `close_id`. For use inside tour functions.
+int tour_modal(const std::string &title, const std::string &group, const std::string &name,
+               const std::string &caption, int (*open)(), int close_id = IDCANCEL);
+// Records a tour step that went wrong: the tour then fails the run.
+void tour_problem(const std::string &what);
+// A tour problem when some driven step did not run as scripted.
+void tour_check(const ui_driver &driver);

@@ -4,10 +4,9 @@
 #include <cstring>
 #include <algorithm>
 
+#include "host/gallery.h"
 #include "host/host_app.h"
-#include "host/png.h"
 #include "host/sample_mission.h"
-#include "host/ui_driver.h"
 
 namespace {
 constexpr int first_feature_command = 40000;
@@ -154,61 +153,6 @@ void host_app::log(const std::string &line) {
     SendMessageA(log_view, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
-void tour_screenshot(HWND window, const std::string &name) {
-    host_app &a = app();
-    if (a.gallery.empty()) return;
-    // Let the window and its children finish painting before the copy: the
-    // screen is read, not the window's own drawing.
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
-    for (DWORD start = GetTickCount(); GetTickCount() - start < 150;) {
-        MSG msg;
-        while (PeekMessageA(&msg, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE)) DispatchMessageA(&msg);
-        Sleep(10);
-    }
-    GdiFlush();
-    RECT r;
-    GetWindowRect(window, &r);
-    int w = r.right - r.left, h = r.bottom - r.top;
-    if (w <= 0 || h <= 0) return;
-    HDC screen = GetDC(nullptr);
-    HDC mem = CreateCompatibleDC(screen);
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = w;
-    info.bmiHeader.biHeight = -h;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void *bits = nullptr;
-    HBITMAP bmp = CreateDIBSection(mem, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    HGDIOBJ old = SelectObject(mem, bmp);
-    BitBlt(mem, 0, 0, w, h, screen, r.left, r.top, SRCCOPY);
-    GdiFlush();
-    std::vector<uint8_t> rgb(static_cast<size_t>(w) * h * 3);
-    const uint8_t *src = static_cast<const uint8_t *>(bits);
-    for (size_t i = 0; i < static_cast<size_t>(w) * h; ++i) {
-        rgb[i * 3] = src[i * 4 + 2];
-        rgb[i * 3 + 1] = src[i * 4 + 1];
-        rgb[i * 3 + 2] = src[i * 4];
-    }
-    SelectObject(mem, old);
-    DeleteObject(bmp);
-    DeleteDC(mem);
-    ReleaseDC(nullptr, screen);
-    std::string path = a.gallery + "\\" + name + ".png";
-    if (write_png(path, w, h, rgb)) a.log("screenshot: " + path);
-}
-
-int tour_modal(const std::string &title, const std::string &name, int (*open)(), int close_id) {
-    ui_driver driver;
-    driver.then(title, [name, close_id](HWND window) {
-        tour_screenshot(window, name);
-        ui_command(window, close_id);
-    });
-    int result = open();
-    if (!driver.ok()) app().log("tour problem: " + driver.failures());
-    return result;
-}
-
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) {
     host_app &a = app();
     const char *tour = std::strstr(command_line, "--tour");
@@ -217,6 +161,11 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) 
         while (*tour == ' ') ++tour;
         a.gallery = *tour ? tour : "gallery";
         CreateDirectoryA(a.gallery.c_str(), nullptr);
+        // A file dialog moves the current folder while it is open, and the
+        // tour photographs it then: keep the gallery's place absolute.
+        char full[MAX_PATH];
+        DWORD n = GetFullPathNameA(a.gallery.c_str(), sizeof full, full, nullptr);
+        if (n > 0 && n < sizeof full) a.gallery = full;
     }
 
     WNDCLASSA wc{};
@@ -257,6 +206,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) 
     int exit_code = 0;
     if (!a.gallery.empty()) {
         run_tour();
+        if (finish_tour_gallery() > 0) exit_code = 3;
         shut_down_editor();
         DestroyWindow(a.main_window);
     } else {

@@ -190,6 +190,28 @@ int EDITOR_CDECL op_patrol_point_destroy(patrol_point **point) {
     app().heli.destroy_patrol_point(*point);
     return 0;
 }
+
+template <class T>
+int hand_out(T *made, T **out) {
+    if (made) *out = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_waypoint_create(waypoint_record **out) { return hand_out(app().heli.create_waypoint(), out); }
+int EDITOR_CDECL op_waypoint_copy(waypoint_record *source, waypoint_record **out) {
+    return hand_out(source ? app().heli.copy_waypoint(*source) : nullptr, out);
+}
+int EDITOR_CDECL op_waypoint_destroy(waypoint_record **waypoint) {
+    app().heli.destroy_waypoint(*waypoint);
+    return 0;
+}
+int EDITOR_CDECL op_heli_group_create(heli_group_record **out) { return hand_out(app().heli.create_heli_group(), out); }
+int EDITOR_CDECL op_heli_group_copy(heli_group_record *source, heli_group_record **out) {
+    return hand_out(source ? app().heli.copy_heli_group(*source) : nullptr, out);
+}
+int EDITOR_CDECL op_heli_group_destroy(heli_group_record **group) {
+    app().heli.destroy_heli_group(*group);
+    return 0;
+}
 }  // namespace
 
 host_ops sample_host_ops() {
@@ -210,5 +232,12 @@ host_ops sample_host_ops() {
     ops.host_order_destroy = op_order_destroy;
     ops.host_patrol_point_create = op_patrol_point_create;
     ops.host_patrol_point_destroy = op_patrol_point_destroy;
+    ops.host_rally_point_list = sample_rally_point_list;
+    ops.host_waypoint_create = op_waypoint_create;
+    ops.host_waypoint_copy = op_waypoint_copy;
+    ops.host_waypoint_destroy = op_waypoint_destroy;
+    ops.host_heli_group_create = op_heli_group_create;
+    ops.host_heli_group_copy = op_heli_group_copy;
+    ops.host_heli_group_destroy = op_heli_group_destroy;
     return ops;
 }

@@ -48,3 +48,12 @@ int EDITOR_CDECL sample_unit_list_standalone(dlist_node **list, int acquire);
 // The mission's groups (a dlist of group_record *), built on first use and
 // freed, with every group the editor added, when the main window goes away.
 dlist_node *sample_groups();
+
+// Helicopter groups (sample_heli.cpp). Slot 27 hands out the mission's rally
+// points as fresh 68-byte entries, freed on release. The heli groups (a
+// dlist of heli_group_record *) and the units that may join them are built
+// on first use and freed, with whatever the editor put there, when the main
+// window goes away.
+int EDITOR_CDECL sample_rally_point_list(dlist_node **list, int acquire);
+dlist_node *sample_heli_groups();
+dlist_node *sample_available_units();

@@ -1,16 +1,9 @@
-/* Helicopter orders: template and control ids of Select New Order Type, the
- * six order dialogs, and the Waypoint Orders list with its buttons on Edit
- * Waypoint; shared by heli_orders.rc, the code, the tests and the host.
- * Controls are prefixed by their dialog. */
+/* Helicopter orders: template and control ids of Select New Order Type and
+ * the six order dialogs; shared by heli_orders.rc, the code, the tests and
+ * the host. Controls are prefixed by their dialog. The Waypoint Orders list
+ * and its buttons belong to Edit Waypoint (heli_ids.h). */
 #ifndef EDITOR_HELI_ORDER_IDS_H
 #define EDITOR_HELI_ORDER_IDS_H
-
-/* The Waypoint Orders list of Edit Waypoint (template 144) and its buttons. */
-#define IDC_WPO_ORDERS 1158
-#define IDC_WPO_ADD 1165
-#define IDC_WPO_INSERT 1151
-#define IDC_WPO_EDIT 1162
-#define IDC_WPO_REMOVE 1166
 
 /* Select New Order Type: a line's index is the order kind. */
 #define IDD_SELECT_ORDER_TYPE 146

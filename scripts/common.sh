@@ -19,6 +19,19 @@ prepare_wine_prefix() {
         wineserver -w || true
         touch "$WINEPREFIX/.editor-ready"
     fi
+    link_wine_fonts
+}
+
+# Debian's Wine looks for its own fonts (Marlett for caption buttons, check
+# marks and scroll arrows; Tahoma for dialogs) beside its data folder, where
+# fonts-wine does not put them: link them into the prefix, where it does look.
+link_wine_fonts() {
+    local fonts="$WINEPREFIX/drive_c/windows/Fonts" font target
+    [ -d /usr/share/wine/fonts ] && [ -d "$fonts" ] || return 0
+    for font in /usr/share/wine/fonts/*; do
+        target="$fonts/$(basename "$font")"
+        [ -e "$target" ] || ln -sfn "$font" "$target"
+    done
 }
 
 # Runs a command with a display: the caller's, or a private Xvfb for the

@@ -1,51 +1,12 @@
-// The waypoint order list and Select New Order Type through their real
-// dialogs. Edit Waypoint is stood in for by a small dialog built here with the
-// order list and its four buttons, whose procedure hands them to the
-// order-list code as Edit Waypoint does.
-#include "heli/waypoint_orders.h"
+// The waypoint order list of Edit Waypoint and Select New Order Type through
+// the real dialogs.
+#include "heli/waypoints.h"
+#include "resources/heli_ids.h"
 #include "tests/heli_orders/order_fixture.h"
 
 namespace {
 const char *const waypoint_title = "Edit Waypoint";
 const char *const chooser_title = "Select New Order Type";
-waypoint_record *stood_in = nullptr;
-int reloads = 0;
-
-void reload(HWND dialog) {
-    ++reloads;
-    fill_waypoint_order_list(dialog, stood_in);
-}
-
-INT_PTR CALLBACK stand_in_proc(HWND dialog, UINT message, WPARAM wparam, LPARAM) {
-    const int id = LOWORD(wparam);
-    if (message == WM_INITDIALOG) fill_waypoint_order_list(dialog, stood_in);
-    if (message != WM_COMMAND) return message == WM_INITDIALOG;
-    if (!waypoint_order_command(dialog, stood_in, id, HIWORD(wparam), reload) && (id == IDOK || id == IDCANCEL))
-        EndDialog(dialog, id);
-    return TRUE;
-}
-
-// Runs the stand-in from a template made here: the list box and the four
-// buttons with Edit Waypoint's ids, classes by ordinal.
-int run_stand_in(waypoint_record &waypoint) {
-    stood_in = &waypoint;
-    reloads = 0;
-    std::vector<WORD> t(sizeof(DLGTEMPLATE) / 2);
-    *reinterpret_cast<DLGTEMPLATE *>(t.data()) = {WS_POPUP | WS_CAPTION | WS_VISIBLE, 0, 5, 0, 0, 180, 100};
-    t.insert(t.end(), {0, 0});  // no menu, the standard class
-    for (const char *c = waypoint_title; *c || (t.push_back(0), false); ++c) t.push_back(WORD(*c));
-    for (int id : {IDC_WPO_ORDERS, IDC_WPO_ADD, IDC_WPO_INSERT, IDC_WPO_EDIT, IDC_WPO_REMOVE}) {
-        t.resize((t.size() + 1) / 2 * 2);  // items start on 4-byte boundaries
-        const bool list = id == IDC_WPO_ORDERS;
-        const DLGITEMTEMPLATE item{DWORD(WS_CHILD | WS_VISIBLE | (list ? LBS_NOTIFY | WS_BORDER : BS_PUSHBUTTON)), 0,
-                                   short(list ? 5 : 110), short(list ? 5 : id % 100), 100, short(list ? 90 : 12), WORD(id)};
-        const WORD *words = reinterpret_cast<const WORD *>(&item);
-        t.insert(t.end(), words, words + sizeof item / 2);
-        t.insert(t.end(), {0xFFFF, WORD(list ? 0x83 : 0x80), 0, 0});  // class, no caption, no data
-    }
-    return int(DialogBoxIndirectParamA(nullptr, reinterpret_cast<DLGTEMPLATE *>(t.data()), current_host->main_window,
-                                       stand_in_proc, 0));
-}
 }  // namespace
 
 class waypoint_orders_test : public heli_order_test {
@@ -66,7 +27,7 @@ protected:
         waypoint.orders = host.build_list(list);
         made.clear();
     }
-    static ui_driver::action on_line(int index, int button) { return pick(IDC_WPO_ORDERS, index, button); }
+    static ui_driver::action on_line(int index, int button) { return pick(IDC_WP_ORDERS, index, button); }
     static ui_driver::action choose(int kind) { return pick(IDC_SOT_KINDS, kind, IDOK); }
 };
 
@@ -77,53 +38,52 @@ TEST_F(waypoint_orders_test, new_orders_and_confirmed_copies_take_the_place_of_t
     set_orders({patrol, wait, odd, engage});
     ui_driver d;
     d.then(waypoint_title, [](HWND dlg) {
-        EXPECT_EQ(ui_list_items(dlg, IDC_WPO_ORDERS), (names{"Patrol", "Wait", "Engage"}));
-        on_line(2, IDC_WPO_INSERT)(dlg);  // Engage, the fourth node
+        EXPECT_EQ(ui_list_items(dlg, IDC_WP_ORDERS), (names{"Patrol", "Wait", "Engage"}));
+        on_line(2, IDC_WP_ORDER_INSERT)(dlg);  // Engage, the fourth node
     });
     d.then(chooser_title, choose(HELI_ORDER_DEPLOY));
     d.then("Edit Deploy Order", type({}, IDOK));
     d.then(waypoint_title, [](HWND dlg) {
-        EXPECT_EQ(ui_list_items(dlg, IDC_WPO_ORDERS), (names{"Patrol", "Wait", "Deploy", "Engage"}));
-        EXPECT_TRUE(ui_list_selected(dlg, IDC_WPO_ORDERS).empty());
+        EXPECT_EQ(ui_list_items(dlg, IDC_WP_ORDERS), (names{"Patrol", "Wait", "Deploy", "Engage"}));
+        EXPECT_TRUE(ui_list_selected(dlg, IDC_WP_ORDERS).empty());
         on_line(1, 0)(dlg);
     });
     d.then("Edit Wait Order", [](HWND dlg) {
         ui_combo_select(dlg, IDC_WAIT_MODE, "Wait Until Time");
         ui_command(dlg, IDOK);
     });
-    d.then(waypoint_title, on_line(3, IDC_WPO_REMOVE));
-    d.then(waypoint_title, on_line(-1, IDC_WPO_INSERT));  // no line: at the end
+    d.then(waypoint_title, on_line(3, IDC_WP_ORDER_REMOVE));
+    d.then(waypoint_title, on_line(-1, IDC_WP_ORDER_INSERT));  // no line: at the end
     d.then(chooser_title, [](HWND dlg) {
         EXPECT_EQ(ui_list_items(dlg, IDC_SOT_KINDS), (names{"Engage", "Deploy", "Pickup", "Patrol", "Wait", "Land"}));
         pick(IDC_SOT_KINDS, HELI_ORDER_LAND, 0)(dlg);
     });
     d.then("Edit Land Order", type({}, IDCANCEL));  // the new order is destroyed
-    d.then(waypoint_title, type({}, IDC_WPO_ADD));
+    d.then(waypoint_title, type({}, IDC_WP_ORDER_ADD));
     d.then(chooser_title, type({}, IDOK));  // no kind chosen: nothing made
-    d.then(waypoint_title, type({}, IDC_WPO_ADD));
+    d.then(waypoint_title, type({}, IDC_WP_ORDER_ADD));
     d.then(chooser_title, type({}, IDCANCEL));
     d.then(waypoint_title, [&](HWND dlg) {
         host.heli.refuse_create = true;
-        type({}, IDC_WPO_ADD)(dlg);
+        type({}, IDC_WP_ORDER_ADD)(dlg);
     });
     d.then(chooser_title, choose(HELI_ORDER_ENGAGE));
     d.then(waypoint_title, [&](HWND dlg) {
         host.heli.refuse_create = false;
         host.heli.refuse_copy = true;
-        on_line(0, IDC_WPO_EDIT)(dlg);
+        on_line(0, IDC_WP_ORDER_EDIT)(dlg);
     });
     d.then(waypoint_title, [&](HWND dlg) {
         host.heli.refuse_copy = false;
-        EXPECT_EQ(reloads, 3);
-        type({}, IDC_WPO_ADD)(dlg);
+        type({}, IDC_WP_ORDER_ADD)(dlg);
     });
     d.then(chooser_title, choose(HELI_ORDER_PICKUP));
     d.then("Edit Pickup Order", type({}, IDOK));
     d.then(waypoint_title, [](HWND dlg) {
-        EXPECT_EQ(ui_list_items(dlg, IDC_WPO_ORDERS), (names{"Patrol", "Wait", "Deploy", "Pickup"}));
+        EXPECT_EQ(ui_list_items(dlg, IDC_WP_ORDERS), (names{"Patrol", "Wait", "Deploy", "Pickup"}));
         ui_command(dlg, IDCANCEL);
     });
-    EXPECT_EQ(run_stand_in(waypoint), IDCANCEL);
+    EXPECT_EQ(edit_waypoint(host.main_window, &waypoint), 0);
     EXPECT_DRIVER_OK(d);
     std::vector<heli_order_record *> orders = values<heli_order_record>(waypoint.orders);
     ASSERT_EQ(orders.size(), 5u);
@@ -160,7 +120,7 @@ TEST_F(waypoint_orders_test, cancelled_list_edits_on_copies_leave_every_original
     ui_driver d;
     for (int line = 0; line < 3; ++line) {
         const auto &dialog = dialogs[line];
-        d.then(waypoint_title, on_line(line, IDC_WPO_EDIT));
+        d.then(waypoint_title, on_line(line, IDC_WP_ORDER_EDIT));
         d.then(dialog.title, [&dialog](HWND dlg) {
             ui_list_select_index(dlg, dialog.list, 0);
             ui_command(dlg, dialog.del);
@@ -178,9 +138,8 @@ TEST_F(waypoint_orders_test, cancelled_list_edits_on_copies_leave_every_original
         });
     }
     d.then(waypoint_title, type({}, IDOK));
-    EXPECT_EQ(run_stand_in(waypoint), IDOK);
+    EXPECT_EQ(edit_waypoint(host.main_window, &waypoint), 1);
     EXPECT_DRIVER_OK(d);
     EXPECT_EQ(snapshot(deploy) + snapshot(pickup) + snapshot(patrol), before);
     EXPECT_EQ(std::make_pair(host.heli.copies, host.heli.destroys), std::make_pair(3, 3));
-    EXPECT_EQ(reloads, 0);
 }

@@ -133,6 +133,51 @@ int EDITOR_CDECL op_patrol_point_destroy(patrol_point **point) {
     return 0;
 }
 
+int EDITOR_CDECL op_rally_points(dlist_node **list, int acquire) {
+    test_host &h = *current_host;
+    if (acquire) {
+        if (h.refuse_rally_points) return 0;
+        std::vector<uintptr_t> values;
+        for (const rally_point_entry &point : h.rally_points) {
+            auto *copy = static_cast<rally_point_entry *>(h.memory.alloc(sizeof(rally_point_entry)));
+            *copy = point;
+            values.push_back(reinterpret_cast<uintptr_t>(copy));
+        }
+        *list = h.build_list(values);
+        ++h.lists_out;
+        return 1;
+    }
+    for (dlist_node *node = (*list)->next; node != *list; node = node->next)
+        h.memory.free(reinterpret_cast<void *>(node->value), sizeof(rally_point_entry));
+    h.free_list(*list);
+    *list = nullptr;
+    --h.lists_out;
+    return 1;
+}
+
+// Records made by the host's store, handed out through a pointer variable.
+template <class T>
+int hand_out(T *made, T **out) {
+    if (made) *out = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_waypoint_create(waypoint_record **out) { return hand_out(current_host->heli.create_waypoint(), out); }
+int EDITOR_CDECL op_waypoint_copy(waypoint_record *source, waypoint_record **out) {
+    return hand_out(source ? current_host->heli.copy_waypoint(*source) : nullptr, out);
+}
+int EDITOR_CDECL op_waypoint_destroy(waypoint_record **waypoint) {
+    current_host->heli.destroy_waypoint(*waypoint);
+    return 0;
+}
+int EDITOR_CDECL op_group_create(heli_group_record **out) { return hand_out(current_host->heli.create_heli_group(), out); }
+int EDITOR_CDECL op_group_copy(heli_group_record *source, heli_group_record **out) {
+    return hand_out(source ? current_host->heli.copy_heli_group(*source) : nullptr, out);
+}
+int EDITOR_CDECL op_group_destroy(heli_group_record **group) {
+    current_host->heli.destroy_heli_group(*group);
+    return 0;
+}
+
 LRESULT CALLBACK main_window_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     return DefWindowProcA(window, message, wparam, lparam);
 }
@@ -193,6 +238,13 @@ unit_entry test_host::unit(int32_t id, const std::string &name, const std::strin
     std::strncpy(u.type_name, type_name.c_str(), sizeof u.type_name - 1);
     u.id = id;
     return u;
+}
+
+rally_point_entry test_host::rally_point(uint32_t id, const std::string &name) {
+    rally_point_entry r{};
+    std::strncpy(r.name, name.c_str(), sizeof r.name - 1);
+    r.id = id;
+    return r;
 }
 
 group_record *test_host::make_group(const std::string &name, const std::vector<unit_entry> &members, int32_t status) {
@@ -256,6 +308,13 @@ editor_setup test_host::setup() {
     s.ops.host_order_destroy = op_order_destroy;
     s.ops.host_patrol_point_create = op_patrol_point_create;
     s.ops.host_patrol_point_destroy = op_patrol_point_destroy;
+    s.ops.host_rally_point_list = op_rally_points;
+    s.ops.host_waypoint_create = op_waypoint_create;
+    s.ops.host_waypoint_copy = op_waypoint_copy;
+    s.ops.host_waypoint_destroy = op_waypoint_destroy;
+    s.ops.host_heli_group_create = op_group_create;
+    s.ops.host_heli_group_copy = op_group_copy;
+    s.ops.host_heli_group_destroy = op_group_destroy;
     return s;
 }
 

@@ -27,7 +27,8 @@ struct notification {
 
 struct test_host {
     alloc_tracker memory;
-    // Orders and patrol points (host_order_*, host_patrol_point_*), counted.
+    // Orders, patrol points, waypoints and heli groups (host_order_*,
+    // host_patrol_point_*, host_waypoint_*, host_heli_group_*), counted.
     heli_records heli{memory};
     HWND main_window = nullptr;
     std::string settings_folder;  // ends with a backslash
@@ -64,6 +65,12 @@ struct test_host {
     void free_group(group_record *group);  // its member list too
     dlist_node *make_group_list(const std::vector<group_record *> &groups);
     void free_group_list(dlist_node *groups);  // and every group in it
+    // Rally points handed out by host_rally_point_list (slot 27): fresh
+    // 68-byte entries on each acquire, freed on release.
+    std::vector<rally_point_entry> rally_points;
+    bool refuse_rally_points = false;
+    static rally_point_entry rally_point(uint32_t id, const std::string &name);
+
     // When set, refuse_acquire and refuse_release apply to this list of names only.
     const std::vector<std::string> *refuse_only = nullptr;
 
