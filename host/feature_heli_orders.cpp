@@ -73,18 +73,18 @@ void tour() {
                          ui_command(dlg, IDCANCEL);
                      }});
     through_waypoint(0, 0, first, IDCANCEL, 8000);
-    through_waypoint(0, 1, order_shot(0, "Edit Wait Order", "edit_wait_order",
-                                      "Group0's second waypoint, << Edit on its Wait order: waiting for Bridge1."),
-                     IDCANCEL, 8000);
-    through_waypoint(0, 2, order_shot(0, "Edit Land Order", "edit_land_order",
-                                      "Group0's third waypoint, << Edit on its Land order: four landing positions."),
-                     IDCANCEL, 8000);
-    through_waypoint(1, 0, order_shot(0, "Edit Deploy Order", "edit_deploy_order",
-                                      "Group1's first waypoint, << Edit on its Deploy order: two deployments."),
-                     IDCANCEL, 8000);
-    through_waypoint(1, 1, order_shot(0, "Edit Pickup Order", "edit_pickup_order",
-                                      "Group1's second waypoint, << Edit on its Pickup order: two names."),
-                     IDCANCEL, 8000);
+    // One order on the first line of each other sample waypoint.
+    const struct {
+        int group, waypoint;
+        const char *title, *name, *caption;
+    } others[] = {
+        {0, 1, "Edit Wait Order", "edit_wait_order", "Group0's second waypoint, << Edit on its Wait order: for Bridge1."},
+        {0, 2, "Edit Land Order", "edit_land_order", "Group0's third waypoint, << Edit on its Land order."},
+        {1, 0, "Edit Deploy Order", "edit_deploy_order", "Group1's first waypoint, << Edit on its Deploy order."},
+        {1, 1, "Edit Pickup Order", "edit_pickup_order", "Group1's second waypoint, << Edit on its Pickup order."},
+    };
+    for (const auto &o : others)
+        through_waypoint(o.group, o.waypoint, order_shot(0, o.title, o.name, o.caption), IDCANCEL, 8000);
 }
 }  // namespace
 
