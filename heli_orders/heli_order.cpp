@@ -3,8 +3,11 @@
 #include <cstdio>
 
 #include "editor/editor.h"
+#include "heli_orders/order_dialogs.h"
 #include "resources/string_ids.h"
+#include "util/controls.h"
 #include "util/dialogs.h"
+#include "util/numbers.h"
 
 namespace {
 struct order_kind {
@@ -12,23 +15,26 @@ struct order_kind {
     int (*edit)(HWND owner, heli_order_record &order);  // opens the kind's dialog
 };
 
-// Indexed by kind. A kind whose dialog is not built yet has no opener and
-// answers 0.
-const order_kind order_kinds[HELI_ORDER_KIND_COUNT] = {
-    {IDS_HELI_ENGAGE, nullptr},
-    {IDS_HELI_DEPLOY, nullptr},
-    {IDS_HELI_PICKUP, nullptr},
-    {IDS_HELI_PATROL, nullptr},
-    {IDS_HELI_WAIT, nullptr},
-    {IDS_HELI_LAND, nullptr},
-};
+// Each dialog is given the record's offset-8 word, typed for its kind.
+template <class Body, int (*Edit)(HWND, Body)>
+int open_on(HWND owner, heli_order_record &order) {
+    return Edit(owner, reinterpret_cast<Body>(order.body.word));
+}
 
+// Indexed by kind.
+const order_kind order_kinds[HELI_ORDER_KIND_COUNT] = {
+    {IDS_HELI_ENGAGE, open_on<engage_order *, edit_engage_order>},
+    {IDS_HELI_DEPLOY, open_on<dlist *, edit_deploy_order>},
+    {IDS_HELI_PICKUP, open_on<dlist *, edit_pickup_order>},
+    {IDS_HELI_PATROL, open_on<patrol_order *, edit_patrol_order>},
+    {IDS_HELI_WAIT, open_on<wait_order *, edit_wait_order>},
+    {IDS_HELI_LAND, open_on<land_order *, edit_land_order>},
+};
 }  // namespace
 
 int edit_heli_order(HWND owner, heli_order_record *order) {
     if (!order || order->kind >= HELI_ORDER_KIND_COUNT) return 0;
-    const order_kind &kind = order_kinds[order->kind];
-    return kind.edit ? kind.edit(owner, *order) : 0;
+    return order_kinds[order->kind].edit(owner, *order);
 }
 
 int heli_order_label(uint32_t kind) { return kind < HELI_ORDER_KIND_COUNT ? order_kinds[kind].label : 0; }
@@ -45,4 +51,18 @@ bool check_object_name(const char *name) {
     char text[128];
     std::snprintf(text, sizeof text, "Object <%s> does not exist", name);
     return show_message(text, MESSAGE_QUESTION) != 0;
+}
+
+void show_number(HWND dialog, int id, float value) { set_item_text_f(dialog, id, "%6.1f", static_cast<double>(value)); }
+
+bool read_number_strict(HWND dialog, int id, float &value) {
+    char text[32];
+    get_item_text(dialog, id, text);
+    return parse_number_strict(text, value);
+}
+
+bool read_number_lenient(HWND dialog, int id, float &value) {
+    char text[32];
+    get_item_text(dialog, id, text);
+    return parse_number_lenient(text, value);
 }

@@ -22,15 +22,19 @@ int edit_heli_order(HWND owner, heli_order_record *order);
 // The string-table label of an order kind, or 0 for a kind above 5.
 int heli_order_label(uint32_t kind);
 
-// The first entry of a Deploy or Pickup list whose name equals `name` as a
-// whole string, compared byte by byte within the entry's field; null when
-// none does.
+// A fixed-size name field equals `name` as a whole string, byte by byte
+// within the field (which may lack its terminator).
+template <size_t N>
+bool field_equals(const char (&field)[N], const char *name) {
+    return strnlen(field, N) == std::strlen(name) && std::strncmp(field, name, N) == 0;
+}
+
+// The first entry of a Deploy or Pickup list whose name equals `name`; null
+// when none does.
 template <class T>
 T *entry_named(const dlist *list, const char *name) {
     for (T *entry : dlist_values<T>(list)) {
-        if (entry && strnlen(entry->name, sizeof entry->name) == std::strlen(name) &&
-            std::strncmp(entry->name, name, sizeof entry->name) == 0)
-            return entry;
+        if (entry && field_equals(entry->name, name)) return entry;
     }
     return nullptr;
 }
@@ -42,3 +46,26 @@ void report_already_on_list(const char *name);
 // "Object <name> does not exist" (Yes/No). True to go on (the host knows the
 // name, or the designer answered Yes), false when the designer answered No.
 bool check_object_name(const char *name);
+
+// Whether `name` may go into a Deploy or Pickup list as the name of `self`
+// (null for a new entry): refused with the duplicate box when the first entry
+// holding it is another one; then the existence check, skipped when the name
+// is self's present one.
+template <class T>
+bool accept_entry_name(const dlist *list, const char *name, const T *self) {
+    const T *holder = entry_named<T>(list, name);
+    if (holder && holder != self) {
+        report_already_on_list(name);
+        return false;
+    }
+    if (self && field_equals(self->name, name)) return true;
+    return check_object_name(name);
+}
+
+// Numbers as every order dialog shows them: "%6.1f".
+void show_number(HWND dialog, int id, float value);
+// Reads a number field (at most 31 characters) by the strict rule (the
+// number alone) or the lenient one (a leading number). True when accepted,
+// with `value` set; a refused field leaves `value` as it was.
+bool read_number_strict(HWND dialog, int id, float &value);
+bool read_number_lenient(HWND dialog, int id, float &value);

@@ -59,6 +59,13 @@ void add_deploy(heli_order_record *order, const char *name, float x, float z) {
     append(order->body.deploy, entry);
 }
 
+void add_pickup(heli_order_record *order, const char *name) {
+    auto *entry = static_cast<pickup_entry *>(app().memory.alloc(sizeof(pickup_entry)));
+    std::memset(entry, 0, sizeof *entry);
+    set_text(entry->name, sizeof entry->name, name);
+    append(order->body.pickup, entry);
+}
+
 heli_order_record *order(uint32_t kind) { return app().heli.create_order(kind); }
 
 waypoint_record *waypoint(const char *marker, uint32_t height, float kmh, std::initializer_list<heli_order_record *> orders) {
@@ -92,17 +99,25 @@ void build() {
     patrol->body.patrol->cycles = 3;
     for (const char *marker : {"LZ_Alpha", "LZ_Bravo"}) append(patrol->body.patrol->points, app().heli.create_patrol_point(marker));
     heli_order_record *wait = order(HELI_ORDER_WAIT);
+    wait->body.wait->mode = WAIT_FOR_OBJECT;
+    set_text(wait->body.wait->name, sizeof wait->body.wait->name, "Bridge1");
+    wait->body.wait->range = 150.0f;
+    heli_order_record *land = order(HELI_ORDER_LAND);
+    for (int i = 0; i < 4; ++i) land->body.land->positions[i] = {200.0f + 15.0f * i, 1.0f, -80.0f};
     append(attack->waypoints, waypoint("WP_North", HEIGHT_LOW, 180.0f, {engage, patrol}));
     append(attack->waypoints, waypoint("", HEIGHT_NOE, 120.0f, {wait}));
-    append(attack->waypoints, waypoint("WP_Bridge", HEIGHT_MEDIUM, 220.0f, {order(HELI_ORDER_LAND)}));
+    append(attack->waypoints, waypoint("WP_Bridge", HEIGHT_MEDIUM, 220.0f, {land}));
     add_deploy(attack->in_transit, "sarge0", 1200.0f, -350.0f);
     append(groups, attack);
 
     heli_group_record *lift = group("Group1", 202, 0, {303, 304});
     heli_order_record *drop = order(HELI_ORDER_DEPLOY);
     add_deploy(drop, "sarge1", 800.0f, 400.0f);
+    add_deploy(drop, "Grunt7", 812.5f, 395.0f);
+    heli_order_record *pickup = order(HELI_ORDER_PICKUP);
+    for (const char *name : {"Tank1", "Tank2"}) add_pickup(pickup, name);
     append(lift->waypoints, waypoint("LZ_Alpha", HEIGHT_LOW, 150.0f, {drop}));
-    append(lift->waypoints, waypoint("", HEIGHT_HIGH, 200.0f, {order(HELI_ORDER_PICKUP)}));
+    append(lift->waypoints, waypoint("", HEIGHT_HIGH, 200.0f, {pickup}));
     add_deploy(lift->in_transit, "sarge1", 0.0f, 0.0f);
     append(groups, lift);
 

@@ -75,13 +75,14 @@ dlist_node *dlist_push_back(dlist *head, uintptr_t value) {
     return node;
 }
 
-void dlist_insert_before(dlist_node *node, uintptr_t value) {
+dlist_node *dlist_insert_before(dlist_node *node, uintptr_t value) {
     dlist_node *added = new_node(value);
-    if (!added) return;
+    if (!added) return nullptr;
     added->next = node;
     added->prev = node->prev;
     node->prev->next = added;
     node->prev = added;
+    return added;
 }
 
 void dlist_remove_node(dlist_node *node) {
@@ -90,13 +91,12 @@ void dlist_remove_node(dlist_node *node) {
     free_node(node);
 }
 
-void dlist_remove_value(dlist *head, uintptr_t value) {
-    for (dlist_node *node = head->next; node != head; node = node->next) {
-        if (node->value == value) {
-            dlist_remove_node(node);
-            return;
-        }
-    }
+void dlist_remove_value(dlist *head, uintptr_t value) { dlist_remove_node(dlist_find(head, value)); }
+
+dlist_node *dlist_find(const dlist *head, uintptr_t value) {
+    for (dlist_node *node = head->next; node != head; node = node->next)
+        if (node->value == value) return node;
+    return nullptr;
 }
 
 uintptr_t dlist_last(const dlist *head) {

@@ -15,10 +15,13 @@ void dlist_destroy(dlist *head);
 void dlist_clear(dlist *head);
 void dlist_push_front(dlist *head, uintptr_t value);
 dlist_node *dlist_push_back(dlist *head, uintptr_t value);
-void dlist_insert_before(dlist_node *node, uintptr_t value);
+// The new node, or null (nothing added) when no node could be had.
+dlist_node *dlist_insert_before(dlist_node *node, uintptr_t value);
 void dlist_remove_node(dlist_node *node);
 void dlist_remove_value(dlist *head, uintptr_t value);
 uintptr_t dlist_last(const dlist *head);
+// The first node, counted from the front, whose value word equals value; null when none does.
+dlist_node *dlist_find(const dlist *head, uintptr_t value);
 uint32_t dlist_count(const dlist *head);
 void dlist_splice(dlist *dest, dlist *src);
 

@@ -47,6 +47,17 @@ bool append_entry(dlist *list, T *entry) {
     return false;
 }
 
+// Unlinks the first node holding `entry` and gives the entry back; false,
+// with nothing changed, when no node holds it (or it is null).
+template <class T>
+bool remove_entry(dlist *list, T *entry) {
+    dlist_node *node = entry ? dlist_find(list, dlist_value(entry)) : nullptr;
+    if (!node) return false;
+    dlist_remove_node(node);
+    host_delete(entry);
+    return true;
+}
+
 // Gives back every entry (sizeof(T) bytes each) and every node; the head
 // stays, an empty list.
 template <class T>

@@ -129,9 +129,9 @@ TEST_F(heli_group_test, route_and_in_transit_order_are_edited_on_copies_and_miss
     ui_driver d;
     d.then("Edit Heli Group", [&](HWND dlg) { ui_command(dlg, IDC_HG_EDIT_WAYPOINTS); })
         .then("Edit Waypoints", press_cancel)
+        .then("Edit Heli Group", [&](HWND dlg) { ui_command(dlg, IDC_HG_IN_TRANSIT); })
+        .then("Edit Deploy Order", press_cancel)  // the in-transit copy goes
         .then("Edit Heli Group", [&](HWND dlg) {
-            // The order dialogs answer Cancel until they are built: the copy goes.
-            ui_command(dlg, IDC_HG_IN_TRANSIT);
             heli.refuse_waypoint_copy = true;  // no working route: nothing opens
             ui_command(dlg, IDC_HG_EDIT_WAYPOINTS);
         })
