@@ -27,7 +27,7 @@ struct bench_host {
 
     // What the list operations hand out; texts live in the benchmark's own
     // memory for the whole run.
-    std::vector<std::string> reference_names, markers, formations, message_targets;
+    std::vector<std::string> reference_names, markers, formations, message_targets, rally_points;
     std::vector<unit_entry> units;
 
     // Lists in host memory.
@@ -66,6 +66,7 @@ struct scenario {
 };
 
 std::vector<scenario> ground_scenarios();
+std::vector<scenario> heli_scenarios();
 
 // Runs `act` (a click that opens the measured dialog from inside its parent)
 // as soon as the parent's modal loop runs, timed as the measured dialog's

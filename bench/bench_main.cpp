@@ -81,6 +81,57 @@ int EDITOR_CDECL op_object_name(uint32_t, int, char *names) {
 }
 int EDITOR_CDECL op_object_exists(const char *) { return 1; }
 
+// Rally points: 68-byte entries made on acquire and freed on release.
+int EDITOR_CDECL op_rally_points(dlist_node **list, int acquire) {
+    bench_host &h = bench();
+    if (acquire) {
+        std::vector<const void *> values;
+        uint32_t id = 0;
+        for (const std::string &name : h.rally_points) {
+            auto *entry = static_cast<rally_point_entry *>(h.memory.alloc(sizeof(rally_point_entry)));
+            std::memset(entry, 0, sizeof *entry);
+            std::snprintf(entry->name, sizeof entry->name, "%s", name.c_str());
+            entry->id = ++id;
+            values.push_back(entry);
+        }
+        *list = h.list(values);
+        ++h.lists_out;
+        return 1;
+    }
+    h.heli.free_units(*list);  // 68-byte entries, like units
+    *list = nullptr;
+    --h.lists_out;
+    return 1;
+}
+
+template <class T, T *(heli_records::*Make)()>
+int EDITOR_CDECL op_create(T **out) {
+    T *made = (bench().heli.*Make)();
+    if (made) *out = made;
+    return made ? 1 : 0;
+}
+template <class T, T *(heli_records::*Copy)(const T &)>
+int EDITOR_CDECL op_copy(T *source, T **out) {
+    T *made = source ? (bench().heli.*Copy)(*source) : nullptr;
+    if (made) *out = made;
+    return made ? 1 : 0;
+}
+template <class T, void (heli_records::*Destroy)(T *)>
+int EDITOR_CDECL op_destroy(T **record) {
+    (bench().heli.*Destroy)(*record);
+    return 0;
+}
+int EDITOR_CDECL op_order_create(uint32_t kind, heli_order_record **out) {
+    heli_order_record *made = bench().heli.create_order(kind);
+    if (made) *out = made;
+    return made ? 1 : 0;
+}
+int EDITOR_CDECL op_patrol_point_create(const char *marker, patrol_point **out) {
+    patrol_point *made = bench().heli.create_patrol_point(marker);
+    if (made) *out = made;
+    return made ? 1 : 0;
+}
+
 editor_setup bench_setup() {
     editor_setup s{};
     s.state.edit_mode = 0;
@@ -97,6 +148,18 @@ editor_setup bench_setup() {
     s.ops.host_free = op_free;
     s.ops.host_object_name = op_object_name;
     s.ops.host_object_exists = op_object_exists;
+    s.ops.host_rally_point_list = op_rally_points;
+    s.ops.host_order_create = op_order_create;
+    s.ops.host_order_copy = op_copy<heli_order_record, &heli_records::copy_order>;
+    s.ops.host_order_destroy = op_destroy<heli_order_record, &heli_records::destroy_order>;
+    s.ops.host_waypoint_create = op_create<waypoint_record, &heli_records::create_waypoint>;
+    s.ops.host_waypoint_copy = op_copy<waypoint_record, &heli_records::copy_waypoint>;
+    s.ops.host_waypoint_destroy = op_destroy<waypoint_record, &heli_records::destroy_waypoint>;
+    s.ops.host_heli_group_create = op_create<heli_group_record, &heli_records::create_heli_group>;
+    s.ops.host_heli_group_copy = op_copy<heli_group_record, &heli_records::copy_heli_group>;
+    s.ops.host_heli_group_destroy = op_destroy<heli_group_record, &heli_records::destroy_heli_group>;
+    s.ops.host_patrol_point_create = op_patrol_point_create;
+    s.ops.host_patrol_point_destroy = op_destroy<patrol_point, &heli_records::destroy_patrol_point>;
     return s;
 }
 
@@ -273,6 +336,7 @@ int main(int argc, char **argv) {
     CreateThread(nullptr, 0, watchdog, nullptr, 0, nullptr);
 
     std::vector<scenario> scenarios = ground_scenarios();
+    for (scenario &s : heli_scenarios()) scenarios.push_back(std::move(s));
     std::printf("%-26s %6s %10s %10s %6s %10s %10s %6s\n", "dialog", "N", "dll ms", "floor ms", "ratio",
                 "init dll", "init floor", "ratio");
     for (const scenario &s : scenarios) {
