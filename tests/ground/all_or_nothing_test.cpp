@@ -43,29 +43,26 @@ const step flow[] = {
     {"Orders", "OK", press_ok},
     {"Sarge Order", "name", [](HWND d) { ui_set_text(d, IDC_ORDER_NAME, "Go"); press_ok(d); }},
     {"group orders", "OK", press_ok, "group orders: Cancel"},  // a commit not made keeps its dialog open
-    {"composition", "Add->", [](HWND d) {
-         ui_list_select(d, IDC_GC_AVAILABLE, "Mortar2 (mortar)");
-         ui_command(d, IDC_GC_ADD);
-     }},
+    {"composition", "Add->", [](HWND d) { ui_list_select(d, IDC_GC_AVAILABLE, "Mortar2 (mortar)"); ui_command(d, IDC_GC_ADD); }},
     {"composition", "OK", press_ok, "composition: Cancel"},
 };
 
-// Plays the flow on whichever dialog is up, each kind taking its own next
-// step; a dialog with no step left (or skipped) is cancelled, which gives the
-// memory back so that the flow goes on; anything else is closed as
+// One run: plays the flow on whichever dialog is up, each kind taking its
+// own next step; a dialog with no step left (or skipped) is cancelled, which
+// gives the memory back so that the flow goes on; anything else is closed as
 // unexpected. Logs what it did, with the allocation count before each.
-struct flow_player {
+struct run {
     int result = 0;
     std::string before, after;  // snapshots of the group
     lines log;
     std::vector<int> allocations_before;  // of each logged step, then the run's total
     std::map<std::string, size_t> taken;
+    static run *playing;
 
     static void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) {
         for (HWND w : ui_thread_windows())
             if (IsWindowEnabled(w) && !is_editor_window(w) && w != editor_main_window()) return playing->visit(w);
     }
-    static flow_player *playing;
     void visit(HWND dialog) {
         std::string kind = ui_window_text(dialog);
         if (kind == "Dialog") kind = GetDlgItem(dialog, IDC_GC_EDIT_ORDERS) ? "composition" : "group orders";
@@ -87,23 +84,23 @@ struct flow_player {
         }
     }
 };
-flow_player *flow_player::playing = nullptr;
+run *run::playing = nullptr;
 }  // namespace
 
 TEST_F(group_test, every_failed_allocation_leaves_the_group_whole_and_nothing_behind) {
     editor_stored_setup().ops.host_alloc = scarce_alloc;
-    // One run from a fresh group, failing from allocation k on.
-    auto run = [&](int k, const char *skipped = "") {
+    // A fresh group each time, the flow failing from allocation k on.
+    auto play = [&](int k, const char *skipped = "") {
         group_record *g = add_group("sarge0", {1, 2});
         g->orders[g->order_count++] = order(SARGE_ORDER_HALT, "Wait");
         g->contingencies[g->contingency_count++] = contingency(TRIGGER_UNDER_FIRE, "Duck");
-        flow_player out;
+        run out;
         out.before = snapshot(*g);
         out.taken[skipped] = std::size(flow);
         allocations = 0;
         fail_from = k;
-        flow_player::playing = &out;
-        UINT_PTR timer = SetTimer(nullptr, 0, 10, flow_player::tick);
+        run::playing = &out;
+        UINT_PTR timer = SetTimer(nullptr, 0, 10, run::tick);
         out.result = editor_window(REQUEST_GROUP_COMPOSITION, arg(g), groups_arg());
         KillTimer(nullptr, timer);
         out.allocations_before.push_back(allocations);
@@ -117,14 +114,14 @@ TEST_F(group_test, every_failed_allocation_leaves_the_group_whole_and_nothing_be
         return out;
     };
     // The clean run plays every step once, in order, and stores every level's edits.
-    const flow_player clean = run(0);
+    const run clean = play(0);
     lines steps;
     for (const step &s : flow) steps.push_back(std::string(s.dialog) + ": " + s.name);
     ASSERT_EQ(clean.log, steps);
     ASSERT_EQ(clean.result, 1);
     group_record stored;
-    std::memcpy(&stored, clean.after.data(), sizeof stored);
     unit_entry first_member;
+    std::memcpy(&stored, clean.after.data(), sizeof stored);
     std::memcpy(&first_member, clean.after.data() + sizeof stored, sizeof first_member);
     EXPECT_EQ(clean.after.size(), sizeof stored + 3 * sizeof first_member);
     EXPECT_EQ(first_member.id, 5);  // Mortar2, in front of the two members
@@ -133,12 +130,12 @@ TEST_F(group_test, every_failed_allocation_leaves_the_group_whole_and_nothing_be
     EXPECT_EQ(stored.orders[1].type, SARGE_ORDER_ADVANCE);  // OK without a choice of type
     EXPECT_EQ(std::string(stored.orders[1].name) + stored.orders[1].formation + stored.orders[1].destination, "GoColumnWP1");
     // The group as it ends when Group Orders is cancelled and the rest confirmed.
-    const flow_player orders_cancelled = run(0, "group orders");
+    const run orders_cancelled = play(0, "group orders");
     ASSERT_EQ(orders_cancelled.result, 1);
 
     for (int k = 1;; ++k) {
         SCOPED_TRACE("failing from allocation " + std::to_string(k));
-        const flow_player out = run(k);
+        const run out = play(k);
         if (allocations < k) {  // finished before the k-th: every allocation has failed once
             EXPECT_EQ(k, clean.allocations_before.back() + 1);
             EXPECT_TRUE(out.after == clean.after);
@@ -149,16 +146,13 @@ TEST_F(group_test, every_failed_allocation_leaves_the_group_whole_and_nothing_be
         const bool orders_refused = std::count(out.log.begin(), out.log.end(), "group orders: Cancel") > 0;
         EXPECT_EQ(out.result, orders_refused ? 1 : 0);
         EXPECT_TRUE(out.after == (orders_refused ? orders_cancelled.after : out.before));
-        // The steps up to the one that met the failure went as in the clean run.
+        // The step in which the k-th allocation fell decides what comes next.
         size_t met = 0;
         while (met < steps.size() && clean.allocations_before[met] < k) ++met;
         if (met == 0) {
             EXPECT_TRUE(out.log.empty()) << "a working copy that cannot be made whole opens no dialog";
-            continue;
-        }
-        ASSERT_GT(out.log.size(), met);
-        EXPECT_EQ(lines(out.log.begin(), out.log.begin() + met), lines(steps.begin(), steps.begin() + met));
-        if (const char *next = flow[met - 1].after_failure) {
+        } else if (const char *next = flow[met - 1].after_failure) {
+            ASSERT_GT(out.log.size(), met);
             EXPECT_EQ(out.log[met], next);
         }
     }
