@@ -1,191 +1,112 @@
+// The contingency order: a trigger with its one value, and an order whose
+// section follows its type.
 #include "ground/contingency.h"
 #include "tests/ground/group_fixture.h"
-#include "util/dialogs.h"
-#include "util/text.h"
 
 namespace {
-using names = std::vector<std::string>;
+// The trigger, its value's label and value, the next order, then the order's
+// type, amount label and amount, destination and formation.
+std::string screen(HWND dlg) {
+    return shown(dlg, {IDC_CT_TRIGGER, IDC_CT_VALUE_LABEL, IDC_CT_VALUE, IDC_CT_NEXT_ORDER, IDC_CT_ORDER_TYPE,
+                       IDC_CT_AMOUNT_LABEL, IDC_CT_AMOUNT, IDC_ORDER_DESTINATION, IDC_ORDER_FORMATION});
+}
 }  // namespace
 
-class contingency_test : public editor_test {
+class contingency_test : public ground_test {
 protected:
     contingency_order_record r{};
-
-    void SetUp() override {
-        editor_test::SetUp();
-        host.formations = {"Column", "Line"};
-        host.markers = {"WP1", "WP2"};
-        host.message_targets = {"HQ"};
-        ASSERT_EQ(start_editor(), 1);
+    lines seen;  // what each step saw
+    int edit(std::initializer_list<ui_driver::action> acts) {
+        ui_driver d;
+        for (const auto &act : acts) d.then("Sarge Order", [&, act](HWND dlg) { seen.push_back(screen(dlg)); act(dlg); });
+        const int result = edit_contingency_order(host.main_window, &r);
+        EXPECT_DRIVER_OK(d);
+        return result;
     }
-    int edit(std::initializer_list<ui_driver::action> steps) {
-        return drive("Sarge Order", steps, [&] { return edit_contingency_order(host.main_window, &r); });
+    static ui_driver::action pick(int combo, const char *text) {
+        return [=](HWND dlg) { ui_combo_select(dlg, combo, text); };
+    }
+    static ui_driver::action type_and_ok(int id, const std::string &text) {
+        return [=](HWND dlg) { ui_set_text(dlg, id, text); press_ok(dlg); };
     }
 };
 
 TEST_F(contingency_test, fresh_record_opens_as_enemy_close_and_halt) {
-    EXPECT_EQ(1, edit({[&](HWND dlg) {
-        EXPECT_EQ(ui_combo_items(dlg, IDC_CT_TRIGGER),
-                  (names{"Enemy Close", "Under Fire", "Damage", "Message", "Continue"}));
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_TRIGGER), "Enemy Close");
-        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE_LABEL), "Distance (m)");
-        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "");
-        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_VALUE) && ui_enabled(dlg, IDC_CT_NEXT_ORDER));
-        EXPECT_EQ(ui_combo_items(dlg, IDC_CT_ORDER_TYPE),
-                  (names{"Halt", "Defend", "Mobile Defence", "March", "Advance", "Barrage"}));
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_ORDER_TYPE), "Halt");
-        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT_LABEL), "Duration (secs)");
-        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT), "0.000000");
-        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_AMOUNT));
-        EXPECT_FALSE(ui_enabled(dlg, IDC_ORDER_DESTINATION) || ui_enabled(dlg, IDC_ORDER_FORMATION));
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_MESSAGE_TARGET), "NONE");
+    EXPECT_EQ(edit({[&](HWND dlg) {
         ui_set_text(dlg, IDC_CT_VALUE, "12.5m");
         ui_set_text(dlg, IDC_CT_NEXT_ORDER, "abcdefghijklmnopqrst");
         ui_combo_select(dlg, IDC_ORDER_MESSAGE_TARGET, "HQ");
         ui_set_text(dlg, IDC_ORDER_MESSAGE, "done");
-        ui_command(dlg, IDOK);
-    }}));
-    EXPECT_EQ(r.trigger, TRIGGER_ENEMY_CLOSE);
-    EXPECT_EQ(r.distance, 12.5f);
-    EXPECT_STREQ(r.next_order, "abcdefghijklmno");
-    EXPECT_EQ(r.order.type, SARGE_ORDER_HALT);
-    EXPECT_STREQ(r.order.message_target, "HQ");
-    EXPECT_STREQ(r.order.message, "done");
+        EXPECT_EQ(ui_combo_items(dlg, IDC_ORDER_MESSAGE_TARGET), (lines{"HQ", "Alpha", "NONE"}));
+        press_ok(dlg);
+    }}), 1);
+    EXPECT_EQ(seen, lines{"Enemy Close,Distance (m),,,Halt,Duration (secs),0.000000,[],[]"});
+    EXPECT_TRUE(r.trigger == TRIGGER_ENEMY_CLOSE && r.distance == 12.5f && r.order.type == SARGE_ORDER_HALT);
+    EXPECT_EQ(std::string(r.next_order) + "|" + r.order.message_target + "|" + r.order.message, "abcdefghijklmno|HQ|done");
 }
 
-TEST_F(contingency_test, switching_trigger_shows_empty_value_then_the_stored_one) {
+TEST_F(contingency_test, each_trigger_shows_and_stores_only_its_own_value) {
     r.trigger = TRIGGER_DAMAGE;
     r.survivors = 3;
-    copy_text(r.next_order, "regroup");
-    copy_text(r.trigger_string, "stale");
-    EXPECT_EQ(edit({[&](HWND dlg) {
-                        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_TRIGGER), "Damage");
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE_LABEL), "Survivors");
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "3");
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_NEXT_ORDER), "regroup");
-                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Message");
-                    },
-                    [&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE_LABEL), "Trigger String");
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "");
-                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Under Fire");
-                    },
-                    [&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE_LABEL), "");
-                        EXPECT_FALSE(ui_enabled(dlg, IDC_CT_VALUE_LABEL) || ui_enabled(dlg, IDC_CT_VALUE));
-                        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_NEXT_ORDER_LABEL));
-                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Damage");
-                    },
-                    [&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "3");
-                        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_VALUE_LABEL) && ui_enabled(dlg, IDC_CT_VALUE));
-                        ui_set_text(dlg, IDC_CT_VALUE, "7 left");
-                        ui_command(dlg, IDOK);
-                    }}),
-              1);
-    EXPECT_EQ(r.survivors, 7);
-    EXPECT_STREQ(r.next_order, "regroup");
-}
-
-TEST_F(contingency_test, each_trigger_stores_only_its_own_value) {
-    r.trigger = TRIGGER_DAMAGE;
-    r.survivors = 4;
     r.distance = 9;
+    copy_text(r.next_order, "regroup");
     copy_text(r.trigger_string, "go");
-    // Under Fire has no value: all three fields stay.
-    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, IDC_CT_TRIGGER, "Under Fire"); }, press_ok}), 1);
-    EXPECT_EQ(r.trigger, TRIGGER_UNDER_FIRE);
-    EXPECT_EQ(r.survivors, 4);
-    EXPECT_EQ(r.distance, 9.0f);
+    r.order.duration = 2;
+    // Cancel keeps every byte, whatever was changed.
+    const contingency_order_record before = r;
+    EXPECT_EQ(edit({pick(IDC_CT_TRIGGER, "Message"), pick(IDC_CT_ORDER_TYPE, "March"), press_cancel}), 0);
+    EXPECT_EQ(0, std::memcmp(&r, &before, sizeof r));
+    // Switching shows another trigger's value empty and the record's own again.
+    seen.clear();
+    EXPECT_EQ(edit({pick(IDC_CT_TRIGGER, "Message"), pick(IDC_CT_TRIGGER, "Under Fire"), pick(IDC_CT_TRIGGER, "Damage"),
+                    [&](HWND dlg) {
+                        ui_set_text(dlg, IDC_CT_VALUE, "7 left");
+                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Under Fire");  // no value: all three stay
+                        press_ok(dlg);
+                    }}), 1);
+    EXPECT_EQ(seen, (lines{"Damage,Survivors,3,regroup,Halt,Duration (secs),2.000000,[],[]",
+                           "Message,Trigger String,,regroup,Halt,Duration (secs),2.000000,[],[]",
+                           "Under Fire,[],[],regroup,Halt,Duration (secs),2.000000,[],[]",
+                           "Damage,Survivors,3,regroup,Halt,Duration (secs),2.000000,[],[]"}));
+    EXPECT_TRUE(r.trigger == TRIGGER_UNDER_FIRE && r.survivors == 3 && r.distance == 9.0f);
     EXPECT_STREQ(r.trigger_string, "go");
+    const std::string long_text(40, 's');
+    EXPECT_EQ(edit({pick(IDC_CT_TRIGGER, "Damage"), type_and_ok(IDC_CT_VALUE, "7 left")}), 1);
+    EXPECT_EQ(edit({pick(IDC_CT_TRIGGER, "Enemy Close"), type_and_ok(IDC_CT_VALUE, "inf")}), 1);
+    EXPECT_EQ(edit({pick(IDC_CT_TRIGGER, "Continue"), type_and_ok(IDC_CT_VALUE, long_text)}), 1);
     // No plain decimal number reads as 0, unlike the library's scans.
-    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, IDC_CT_TRIGGER, "Enemy Close"); },
-                    [&](HWND dlg) {
-                        ui_set_text(dlg, IDC_CT_VALUE, "inf");
-                        ui_command(dlg, IDOK);
-                    }}),
-              1);
-    EXPECT_EQ(r.distance, 0.0f);
-    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, IDC_CT_TRIGGER, "Continue"); },
-                    [&](HWND dlg) {
-                        ui_set_text(dlg, IDC_CT_VALUE, std::string(40, 's'));
-                        ui_command(dlg, IDOK);
-                    }}),
-              1);
-    EXPECT_EQ(r.trigger, TRIGGER_CONTINUE);
+    EXPECT_TRUE(r.trigger == TRIGGER_CONTINUE && r.survivors == 7 && r.distance == 0.0f);
     EXPECT_EQ(std::string(r.trigger_string), std::string(31, 's'));
-    EXPECT_EQ(r.survivors, 4);
 }
 
 TEST_F(contingency_test, order_type_switches_reload_the_section_and_store_its_fields) {
+    r.trigger = TRIGGER_UNDER_FIRE;
     r.order.type = SARGE_ORDER_BARRAGE;
     r.order.duration = 3;
     r.order.formation_rotation = 15;
     copy_text(r.order.formation, "Line");
-    EXPECT_EQ(1, edit({[&](HWND dlg) {
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_ORDER_TYPE), "Barrage");
-        EXPECT_TRUE(ui_enabled(dlg, IDC_ORDER_DESTINATION));
-        EXPECT_FALSE(ui_enabled(dlg, IDC_ORDER_FORMATION));
-        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT), "3.000000");
-        ui_set_text(dlg, IDC_CT_AMOUNT, "123.456789");
-        ui_combo_select(dlg, IDC_ORDER_DESTINATION, "WP2");
-        ui_command(dlg, IDOK);
-    }}));
-    EXPECT_EQ(r.order.duration, 123.45678f);
-    EXPECT_STREQ(r.order.destination, "WP2");
-    EXPECT_STREQ(r.order.formation, "Line");
-    EXPECT_EQ(r.order.formation_rotation, 15.0f);
-
+    EXPECT_EQ(edit({[&](HWND dlg) { pick(IDC_ORDER_DESTINATION, "WP2")(dlg); type_and_ok(IDC_CT_AMOUNT, "123.456789")(dlg); }}), 1);
+    EXPECT_TRUE(r.order.duration == 123.45678f && r.order.formation_rotation == 15.0f);
+    EXPECT_EQ(std::string(r.order.destination) + r.order.formation, "WP2Line");
     // Advance: the rotation is editable here, the duration goes to 0.
     EXPECT_EQ(edit({[&](HWND dlg) {
-                        ui_set_text(dlg, IDC_ORDER_NAME, "typed and lost");
-                        ui_combo_select(dlg, IDC_CT_ORDER_TYPE, "Advance");
-                    },
-                    [&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, IDC_ORDER_NAME), "");  // the section reloads from the record
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT_LABEL), "Formation Rotation (DEGS)");
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_AMOUNT), "15.000000");
-                        EXPECT_TRUE(ui_enabled(dlg, IDC_CT_AMOUNT) && ui_enabled(dlg, IDC_ORDER_FORMATION));
-                        EXPECT_EQ(ui_combo_items(dlg, IDC_ORDER_FORMATION), (names{"Column", "Line"}));
-                        EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_FORMATION), "Line");
-                        EXPECT_EQ(ui_combo_selected(dlg, IDC_ORDER_DESTINATION), "WP2");
-                        ui_combo_select(dlg, IDC_ORDER_FORMATION, "Column");
-                        ui_set_text(dlg, IDC_CT_AMOUNT, "90");
-                        ui_command(dlg, IDOK);
-                    }}),
-              1);
-    EXPECT_EQ(r.order.type, SARGE_ORDER_ADVANCE);
+        ui_set_text(dlg, IDC_ORDER_NAME, "typed and lost");
+        ui_combo_select(dlg, IDC_CT_ORDER_TYPE, "Advance");
+    }, [&](HWND dlg) {
+        EXPECT_EQ(ui_text(dlg, IDC_ORDER_NAME), "");  // the section reloads from the record
+        ui_combo_select(dlg, IDC_ORDER_FORMATION, "Column");
+        type_and_ok(IDC_CT_AMOUNT, "90")(dlg);
+    }}), 1);
+    EXPECT_TRUE(r.order.type == SARGE_ORDER_ADVANCE && r.order.formation_rotation == 90.0f && r.order.duration == 0);
     EXPECT_STREQ(r.order.formation, "Column");
-    EXPECT_EQ(r.order.formation_rotation, 90.0f);
-    EXPECT_EQ(r.order.duration, 0.0f);
-    EXPECT_STREQ(r.order.destination, "WP2");
-
     // Defend: the amount is disabled and the rotation kept.
-    EXPECT_EQ(edit({[&](HWND dlg) { ui_combo_select(dlg, IDC_CT_ORDER_TYPE, "Defend"); },
-                    [&](HWND dlg) {
-                        EXPECT_FALSE(ui_enabled(dlg, IDC_CT_AMOUNT) || ui_enabled(dlg, IDC_CT_AMOUNT_LABEL));
-                        EXPECT_FALSE(ui_enabled(dlg, IDC_ORDER_DESTINATION));
-                        ui_command(dlg, IDOK);
-                    }}),
-              1);
-    EXPECT_EQ(r.order.type, SARGE_ORDER_DEFEND);
-    EXPECT_EQ(r.order.formation_rotation, 90.0f);
-}
-
-TEST_F(contingency_test, cancel_leaves_the_record_untouched) {
-    r.trigger = TRIGGER_MESSAGE;
-    copy_text(r.trigger_string, "alarm");
-    r.order.type = SARGE_ORDER_MARCH;
-    const contingency_order_record before = r;
-    EXPECT_EQ(edit({[&](HWND dlg) {
-                        EXPECT_EQ(ui_text(dlg, IDC_CT_VALUE), "alarm");
-                        ui_combo_select(dlg, IDC_CT_TRIGGER, "Damage");
-                        ui_combo_select(dlg, IDC_CT_ORDER_TYPE, "Halt");
-                        ui_set_text(dlg, IDC_CT_NEXT_ORDER, "x");
-                    },
-                    press_cancel}),
-              0);
-    EXPECT_EQ(0, std::memcmp(&r, &before, sizeof r));
+    EXPECT_EQ(edit({pick(IDC_CT_ORDER_TYPE, "Defend"), press_ok}), 1);
+    EXPECT_TRUE(r.order.type == SARGE_ORDER_DEFEND && r.order.formation_rotation == 90.0f);
+    EXPECT_EQ(seen, (lines{"Under Fire,[],[],,Barrage,Duration (secs),3.000000,WP1,[]",
+                           "Under Fire,[],[],,Barrage,Duration (secs),123.456779,WP2,[]",
+                           "Under Fire,[],[],,Advance,Formation Rotation (DEGS),15.000000,WP2,Line",
+                           "Under Fire,[],[],,Advance,Formation Rotation (DEGS),90.000000,WP2,Column",
+                           "Under Fire,[],[],,Defend,[Formation Rotation (DEGS)],[90.000000],[WP2],[Column]"}));
 }
 
 TEST_F(contingency_test, refused_lists_and_unknown_types_leave_fields_alone) {
@@ -195,22 +116,16 @@ TEST_F(contingency_test, refused_lists_and_unknown_types_leave_fields_alone) {
     r.order.type = SARGE_ORDER_MARCH;
     copy_text(r.order.destination, "WP9");
     copy_text(r.order.formation, "Box");
-    EXPECT_EQ(1, edit({[&](HWND dlg) {
-        for (int id : {IDC_ORDER_DESTINATION, IDC_ORDER_FORMATION, IDC_ORDER_MESSAGE_TARGET}) EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_TRIGGER), "");
-        EXPECT_FALSE(ui_enabled(dlg, IDC_CT_VALUE));
-        ui_command(dlg, IDOK);
-    }}));
-    EXPECT_STREQ(r.order.destination, "WP9");
-    EXPECT_STREQ(r.order.formation, "Box");
-    EXPECT_EQ(r.trigger, 9);
-    EXPECT_EQ(r.survivors, 5);
-
+    EXPECT_EQ(edit({[&](HWND dlg) {
+        for (int id : {IDC_ORDER_DESTINATION, IDC_ORDER_FORMATION, IDC_ORDER_MESSAGE_TARGET})
+            EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
+        press_ok(dlg);
+    }}), 1);
+    EXPECT_EQ(std::string(r.order.destination) + r.order.formation, "WP9Box");
+    EXPECT_TRUE(r.trigger == 9 && r.survivors == 5);
     host.refuse_acquire = false;
-    r.order.type = 1;  // no name: shown as Halt, kept
-    EXPECT_EQ(1, edit({[&](HWND dlg) {
-        EXPECT_EQ(ui_combo_selected(dlg, IDC_CT_ORDER_TYPE), "Halt");
-        ui_command(dlg, IDOK);
-    }}));
+    r.order.type = 1;  // no name: shown as Halt, without an amount, and kept
+    EXPECT_EQ(edit({press_ok}), 1);
     EXPECT_EQ(r.order.type, 1);
+    EXPECT_EQ(seen, (lines{",[],[],,March,Formation Rotation (DEGS),0.000000,,", ",[],[],,Halt,[Duration (Secs)],[],[],[]"}));
 }

@@ -1,5 +1,6 @@
 #include <cstring>
 
+#include "resources/window_ids.h"
 #include "tests/windows/windows_test_util.h"
 #include "windows/status.h"
 
@@ -21,7 +22,7 @@ protected:
     // Sends the state; the info caption and text, joined by " | ".
     std::string show() {
         editor_update(state);
-        return ui_text(status, 1031) + " | " + ui_text(status, 1032);
+        return ui_text(status, IDC_ST_INFO_CAPTION) + " | " + ui_text(status, IDC_ST_INFO_TEXT);
     }
 };
 
@@ -32,7 +33,8 @@ TEST_F(status_test, shows_position_orientation_and_info_lines) {
     state.info_kind = INFO_OBJECT;
     state.info.object.object_id = 42;
     EXPECT_EQ(show(), "Info: Object ID, (Shape) | 42, (?\?\?)");
-    const int ids[] = {1017, 1018, 1019, 1024, 1026, 1027};
+    const int ids[] = {IDC_ST_POSITION_X,    IDC_ST_POSITION_Y,    IDC_ST_POSITION_Z,
+                       IDC_ST_ORIENTATION_X, IDC_ST_ORIENTATION_Y, IDC_ST_ORIENTATION_Z};
     const char *texts[] = {"1.50", "0.00", "-2.25", "90.00", "0.00", "-28.65"};
     for (int i = 0; i < 6; ++i) EXPECT_EQ(ui_text(status, ids[i]), texts[i]);
 
@@ -73,19 +75,19 @@ TEST_F(status_test, typing_stores_and_notifies_while_active) {
     SetActiveWindow(status);
     ASSERT_EQ(GetActiveWindow(), status);
     editor_state &stored = editor_stored_state();
-    for (const char *text : {"-", "abc", "", "."}) SetDlgItemTextA(status, 1017, text);
+    for (const char *text : {"-", "abc", "", "."}) SetDlgItemTextA(status, IDC_ST_POSITION_X, text);
     EXPECT_TRUE(host.notifications.empty());
     EXPECT_EQ(std::memcmp(&stored, &state, sizeof state), 0);
 
-    SetDlgItemTextA(status, 1024, "9");
-    SetDlgItemTextA(status, 1024, "90");
+    SetDlgItemTextA(status, IDC_ST_ORIENTATION_X, "9");
+    SetDlgItemTextA(status, IDC_ST_ORIENTATION_X, "90");
     ASSERT_EQ(host.notifications.size(), 2u);
     EXPECT_EQ(host.notifications[1].code, NOTIFY_ORIENTATION);
     EXPECT_EQ(host.notifications[1].argument, reinterpret_cast<uintptr_t>(&stored.orientation[0]));
     const float expected = 1.5707952f;
     EXPECT_EQ(std::memcmp(&stored.orientation[0], &expected, 4), 0);
 
-    SetDlgItemTextA(status, 1019, "-12.5m");
+    SetDlgItemTextA(status, IDC_ST_POSITION_Z, "-12.5m");
     ASSERT_EQ(host.notifications.size(), 3u);
     EXPECT_EQ(host.notifications[2].code, NOTIFY_POSITION);
     EXPECT_EQ(host.notifications[2].argument, reinterpret_cast<uintptr_t>(&stored.position[0]));
