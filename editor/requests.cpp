@@ -1,5 +1,7 @@
 #include "editor/requests.h"
 
+#include "air/bombing_run.h"
+#include "air/rally_point.h"
 #include "editor_api.h"
 #include "ground/group_composition.h"
 #include "ground/group_list.h"
@@ -40,6 +42,14 @@ int object_names(uintptr_t units, uintptr_t) {
 
 int group_list(uintptr_t groups, uintptr_t) { return list_groups(reinterpret_cast<dlist_node *>(groups)); }
 
+int bombing_run(uintptr_t record, uintptr_t) {
+    return edit_bombing_run(reinterpret_cast<bombing_run_record *>(record));
+}
+
+int rally_point(uintptr_t record, uintptr_t) {
+    return edit_rally_point(reinterpret_cast<rally_point_record *>(record));
+}
+
 // Indexed by request code. A null entry is a dialog not built yet: it answers 0.
 const request_handler handlers[] = {
     message_box,                                 // REQUEST_MESSAGE_BOX
@@ -54,8 +64,8 @@ const request_handler handlers[] = {
     group_composition,                           // REQUEST_GROUP_COMPOSITION
     object_names,                                // REQUEST_OBJECT_NAMES
     group_list,                                  // REQUEST_GROUP_LIST
-    nullptr,                                     // REQUEST_BOMBING_RUN
-    nullptr,                                     // REQUEST_RALLY_POINT
+    bombing_run,                                 // REQUEST_BOMBING_RUN
+    rally_point,                                 // REQUEST_RALLY_POINT
     nullptr,                                     // REQUEST_EDIT_HELI_GROUP
     nullptr,                                     // REQUEST_LIST_HELI_GROUPS
 };
