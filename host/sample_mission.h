@@ -48,3 +48,12 @@ int EDITOR_CDECL sample_unit_list_standalone(dlist_node **list, int acquire);
 // The mission's groups (a dlist of group_record *), built on first use and
 // freed, with every group the editor added, when the main window goes away.
 dlist_node *sample_groups();
+
+// Air support (sample_air.cpp): bombing runs with routes and aircraft types,
+// and rally points with ARSP locations, built on first use and freed, with
+// every waypoint and location the editor added, when the main window goes.
+struct sample_air {
+    std::vector<bombing_run_record *> bombing_runs;
+    std::vector<rally_point_record *> rally_points;
+};
+sample_air &air_sample();
