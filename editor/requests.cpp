@@ -1,5 +1,7 @@
 #include "editor/requests.h"
 
+#include "air/bombing_run.h"
+#include "air/rally_point.h"
 #include "editor/editor.h"
 #include "editor_api.h"
 #include "ground/group_composition.h"
@@ -52,7 +54,15 @@ int list_heli_groups_request(uintptr_t groups, uintptr_t available) {
     return list_heli_groups(reinterpret_cast<dlist_node *>(groups), reinterpret_cast<dlist_node *>(available));
 }
 
-// Indexed by request code. A null entry is a dialog not built yet: it answers 0.
+int bombing_run(uintptr_t record, uintptr_t) {
+    return edit_bombing_run(reinterpret_cast<bombing_run_record *>(record));
+}
+
+int rally_point(uintptr_t record, uintptr_t) {
+    return edit_rally_point(reinterpret_cast<rally_point_record *>(record));
+}
+
+// Indexed by request code.
 const request_handler handlers[] = {
     message_box,                                 // REQUEST_MESSAGE_BOX
     fixed_message<IDS_CONFIRM_QUIT, MESSAGE_QUESTION>, // REQUEST_CONFIRM_QUIT
@@ -66,8 +76,8 @@ const request_handler handlers[] = {
     group_composition,                           // REQUEST_GROUP_COMPOSITION
     object_names,                                // REQUEST_OBJECT_NAMES
     group_list,                                  // REQUEST_GROUP_LIST
-    nullptr,                                     // REQUEST_BOMBING_RUN
-    nullptr,                                     // REQUEST_RALLY_POINT
+    bombing_run,                                 // REQUEST_BOMBING_RUN
+    rally_point,                                 // REQUEST_RALLY_POINT
     edit_heli_group_request,                     // REQUEST_EDIT_HELI_GROUP
     list_heli_groups_request,                    // REQUEST_LIST_HELI_GROUPS
 };

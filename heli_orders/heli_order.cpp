@@ -55,14 +55,3 @@ bool check_object_name(const char *name) {
 
 void show_number(HWND dialog, int id, float value) { set_item_text_f(dialog, id, "%6.1f", static_cast<double>(value)); }
 
-bool read_number_strict(HWND dialog, int id, float &value) {
-    char text[32];
-    get_item_text(dialog, id, text);
-    return parse_number_strict(text, value);
-}
-
-bool read_number_lenient(HWND dialog, int id, float &value) {
-    char text[32];
-    get_item_text(dialog, id, text);
-    return parse_number_lenient(text, value);
-}

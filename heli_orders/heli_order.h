@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include "editor_api.h"
+#include "util/controls.h"
 #include "util/dlist.h"
 
 // Opens the modal dialog of the order's kind, owned by `owner`, on the
@@ -64,8 +65,3 @@ bool accept_entry_name(const dlist *list, const char *name, const T *self) {
 
 // Numbers as every order dialog shows them: "%6.1f".
 void show_number(HWND dialog, int id, float value);
-// Reads a number field (at most 31 characters) by the strict rule (the
-// number alone) or the lenient one (a leading number). True when accepted,
-// with `value` set; a refused field leaves `value` as it was.
-bool read_number_strict(HWND dialog, int id, float &value);
-bool read_number_lenient(HWND dialog, int id, float &value);

@@ -57,3 +57,12 @@ dlist_node *sample_groups();
 int EDITOR_CDECL sample_rally_point_list(dlist_node **list, int acquire);
 dlist_node *sample_heli_groups();
 dlist_node *sample_available_units();
+
+// Air support (sample_air.cpp): bombing runs with routes and aircraft types,
+// and rally points with ARSP locations, built on first use and freed, with
+// every waypoint and location the editor added, when the main window goes.
+struct sample_air {
+    std::vector<bombing_run_record *> bombing_runs;
+    std::vector<rally_point_record *> rally_points;
+};
+sample_air &air_sample();

@@ -621,6 +621,85 @@ EDITOR_CHECK_OFFSET(rally_point_entry, id, 64);
 
 /* --- Air support ---------------------------------------------------------- */
 
+/* One waypoint of a bombing run's ingress or egress route (a node value of
+ * bombing_run_record.ingress or .egress); the editor allocates and frees
+ * these with exactly 48 bytes. */
+typedef struct bombing_waypoint {
+    char name[32];          /* waypoint marker object, at most 31 characters */
+    float height;           /* metres; 50.0 when the waypoint is added */
+    uint8_t host_bytes[12]; /* the host's; never read or written by the editor */
+} bombing_waypoint;
+EDITOR_CHECK_SIZE(bombing_waypoint, 48);
+EDITOR_CHECK_OFFSET(bombing_waypoint, height, 32);
+EDITOR_CHECK_OFFSET(bombing_waypoint, host_bytes, 36);
+
+/* REQUEST_BOMBING_RUN. Route edits change the host's lists at once; the
+ * scalar fields and the aircraft choice are written on OK only. The host
+ * allocates the record; the editor relies on these first 112 bytes. */
+typedef struct bombing_run_record {
+    uint32_t host_word;          /* never read or written by the editor */
+    char name[32];
+    float target_x;
+    float target_y;              /* never read or written by the editor */
+    float target_z;
+    float release_height;        /* metres */
+    float attack_radius;         /* metres */
+    float attack_time;           /* seconds */
+    char aircraft_type[32];      /* the text of one entry of aircraft_types */
+    uint32_t aircraft_count;     /* 1 to 8 */
+    dlist_node *ingress;         /* dlist of bombing_waypoint *, flown in to the target; never null */
+    dlist_node *egress;          /* dlist of bombing_waypoint *, flown out; never null */
+    uint32_t cancelled;          /* written when the dialog ends: 0 after OK, 1 after Cancel or closing */
+    dlist_node *aircraft_types;  /* dlist of char *: the types to offer; may be null */
+} bombing_run_record;
+EDITOR_CHECK_SIZE(bombing_run_record, 112);
+EDITOR_CHECK_OFFSET(bombing_run_record, name, 4);
+EDITOR_CHECK_OFFSET(bombing_run_record, target_x, 36);
+EDITOR_CHECK_OFFSET(bombing_run_record, target_y, 40);
+EDITOR_CHECK_OFFSET(bombing_run_record, target_z, 44);
+EDITOR_CHECK_OFFSET(bombing_run_record, release_height, 48);
+EDITOR_CHECK_OFFSET(bombing_run_record, attack_radius, 52);
+EDITOR_CHECK_OFFSET(bombing_run_record, attack_time, 56);
+EDITOR_CHECK_OFFSET(bombing_run_record, aircraft_type, 60);
+EDITOR_CHECK_OFFSET(bombing_run_record, aircraft_count, 92);
+EDITOR_CHECK_OFFSET(bombing_run_record, ingress, 96);
+EDITOR_CHECK_OFFSET(bombing_run_record, egress, 100);
+EDITOR_CHECK_OFFSET(bombing_run_record, cancelled, 104);
+EDITOR_CHECK_OFFSET(bombing_run_record, aircraft_types, 108);
+
+/* One ARSP location of a rally point (a node value of
+ * rally_point_record.arsp_locations); allocated and freed with exactly 12
+ * bytes. */
+typedef struct arsp_location {
+    float x;
+    float y; /* the rally point's y when the location was added; never edited */
+    float z;
+} arsp_location;
+EDITOR_CHECK_SIZE(arsp_location, 12);
+EDITOR_CHECK_OFFSET(arsp_location, y, 4);
+EDITOR_CHECK_OFFSET(arsp_location, z, 8);
+
+/* REQUEST_RALLY_POINT. ARSP additions, deletions and updates change the
+ * host's list at once; the name and position are written on OK only. Name, x,
+ * y and z stand where they stand in bombing_run_record. The editor relies on
+ * these first 56 bytes. */
+typedef struct rally_point_record {
+    uint32_t host_word;          /* never read or written by the editor */
+    char name[32];
+    float x;
+    float y;                     /* not shown; copied into each new ARSP location */
+    float z;
+    dlist_node *arsp_locations;  /* dlist of arsp_location *, in order; the host supplies a head */
+    uint32_t cancelled;          /* written when the dialog ends: 0 after OK, 1 after Cancel or closing */
+} rally_point_record;
+EDITOR_CHECK_SIZE(rally_point_record, 56);
+EDITOR_CHECK_OFFSET(rally_point_record, name, 4);
+EDITOR_CHECK_OFFSET(rally_point_record, x, 36);
+EDITOR_CHECK_OFFSET(rally_point_record, y, 40);
+EDITOR_CHECK_OFFSET(rally_point_record, z, 44);
+EDITOR_CHECK_OFFSET(rally_point_record, arsp_locations, 48);
+EDITOR_CHECK_OFFSET(rally_point_record, cancelled, 52);
+
 /* ======================================================================== */
 /* The exports (ordinals 1 to 6), and their types for GetProcAddress.        */
 /* ======================================================================== */

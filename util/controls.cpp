@@ -60,6 +60,11 @@ LRESULT combo_add_line(HWND combo, const char *text, LPARAM data) {
     return add_line(combo, CB_ADDSTRING, CB_SETITEMDATA, text, data);
 }
 
+int list_selection(HWND dialog, int id) {
+    LRESULT index = SendDlgItemMessageA(dialog, id, LB_GETCURSEL, 0, 0);
+    return index < 0 ? -1 : static_cast<int>(index);
+}
+
 bool list_selected_data(HWND list, LPARAM &data) { return selected_data(list, LB_GETCURSEL, LB_GETITEMDATA, data); }
 
 bool combo_selected_data(HWND combo, LPARAM &data) {
@@ -128,4 +133,16 @@ void scan_float_item(HWND dialog, int id, int chars, float &value) {
     if (chars > 63) chars = 63;
     get_item_text(dialog, id, text, chars + 1);
     scan_decimal(text, value);
+}
+
+bool read_number_strict(HWND dialog, int id, float &value) {
+    char text[32];
+    get_item_text(dialog, id, text);
+    return parse_number_strict(text, value);
+}
+
+bool read_number_lenient(HWND dialog, int id, float &value) {
+    char text[32];
+    get_item_text(dialog, id, text);
+    return parse_number_lenient(text, value);
 }

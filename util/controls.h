@@ -44,6 +44,9 @@ void enable_controls(HWND dialog, std::initializer_list<int> ids, bool on);
 LRESULT list_add_line(HWND list, const char *text, LPARAM data);
 LRESULT combo_add_line(HWND combo, const char *text, LPARAM data);
 
+// The selected line of a single-selection list box, or -1.
+int list_selection(HWND dialog, int id);
+
 // The item data of the selected line; false when nothing is selected.
 bool list_selected_data(HWND list, LPARAM &data);
 bool combo_selected_data(HWND combo, LPARAM &data);
@@ -107,3 +110,9 @@ private:
 // Reads at most `chars` characters of a control as a "%f" scan does; the
 // value stays as it was when the text does not begin with a number.
 void scan_float_item(HWND dialog, int id, int chars, float &value);
+
+// Reads at most 31 characters of a control by the strict rule (the number
+// alone) or the lenient one (a leading number) of util/numbers.h. True when
+// accepted, with `value` set; a refused field leaves `value` as it was.
+bool read_number_strict(HWND dialog, int id, float &value);
+bool read_number_lenient(HWND dialog, int id, float &value);

@@ -119,3 +119,10 @@ void dlist_splice(dlist *dest, dlist *src) {
     dest->prev = last;
     src->next = src->prev = src;
 }
+
+dlist_node *dlist_node_at(const dlist *head, int index) {
+    if (!head || index < 0) return nullptr;
+    for (dlist_node *node : dlist_nodes(head))
+        if (index-- == 0) return node;
+    return nullptr;
+}

@@ -25,6 +25,10 @@ dlist_node *dlist_find(const dlist *head, uintptr_t value);
 uint32_t dlist_count(const dlist *head);
 void dlist_splice(dlist *dest, dlist *src);
 
+// The node at `index` counted from the first (0); null when the list is
+// shorter, the index negative or the head null. Walks `index` nodes.
+dlist_node *dlist_node_at(const dlist *head, int index);
+
 template <class T>
 inline uintptr_t dlist_value(T *pointer) {
     return reinterpret_cast<uintptr_t>(pointer);

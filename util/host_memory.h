@@ -58,6 +58,16 @@ bool remove_entry(dlist *list, T *entry) {
     return true;
 }
 
+// Puts `entry` before `node` (the head: at the tail); when no node can be
+// had the entry is given back and the answer is false, the list unchanged.
+template <class T>
+bool insert_entry_before(dlist_node *node, T *entry) {
+    if (!entry) return false;
+    if (dlist_insert_before(node, dlist_value(entry))) return true;
+    host_delete(entry);
+    return false;
+}
+
 // Gives back every entry (sizeof(T) bytes each) and every node; the head
 // stays, an empty list.
 template <class T>

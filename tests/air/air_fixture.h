@@ -1,0 +1,94 @@
+// Air support tests: a started editor, routes and ARSP lists in host memory
+// (freed with their entries at the end of each test, so an entry the editor
+// allocated with another size shows up), entries compared as raw bytes.
+#pragma once
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "editor/editor.h"
+#include "resources/air_ids.h"
+#include "tests/support/test_host.h"
+
+using names = std::vector<std::string>;
+
+template <class T>
+std::string bytes_of(const T &record) {
+    return std::string(reinterpret_cast<const char *>(&record), sizeof record);
+}
+
+// Name and terminator over the allocator's fill (the host's bytes untouched), and the height.
+inline bombing_waypoint waypoint(const char *name, float height) {
+    bombing_waypoint w;
+    std::memset(&w, 0xCD, sizeof w);
+    std::memcpy(w.name, name, std::strlen(name) + 1);
+    w.height = height;
+    return w;
+}
+
+class air_test : public editor_test {
+protected:
+    std::vector<std::pair<dlist_node *, uint32_t>> lists;  // with their entries' size; 0: texts
+
+    void SetUp() override {
+        editor_test::SetUp();
+        ASSERT_EQ(start_editor(), 1);
+    }
+    void TearDown() override {
+        ui_driver::close_all_dialogs();
+        for (auto &list : lists) {
+            for (dlist_node *n = list.first->next; list.second && n != list.first; n = n->next)
+                host.memory.free(reinterpret_cast<void *>(n->value), list.second);
+            host.free_list(list.first);
+        }
+        editor_test::TearDown();
+    }
+    template <class T>
+    dlist_node *list_of(std::initializer_list<T> entries) {
+        std::vector<uintptr_t> values;
+        for (const T &e : entries) values.push_back(reinterpret_cast<uintptr_t>(std::memcpy(host.memory.alloc(sizeof e), &e, sizeof e)));
+        lists.push_back({host.build_list(values), sizeof(T)});
+        return lists.back().first;
+    }
+    dlist_node *names_of(const names &texts) {
+        std::vector<uintptr_t> values;
+        for (const std::string &t : texts) values.push_back(reinterpret_cast<uintptr_t>(host.host_text(t)));
+        lists.push_back({host.build_list(values), 0});
+        return lists.back().first;
+    }
+    template <class T>
+    static names entries_of(const dlist_node *list) {
+        names out;
+        for (dlist_node *n = list->next; n != list; n = n->next) out.push_back(bytes_of(*reinterpret_cast<T *>(n->value)));
+        return out;
+    }
+    // Each step first makes the host's allocator grant `blocks` more (-1: all).
+    ui_driver::action failing(int blocks, ui_driver::action act) {
+        return [=](HWND dlg) {
+            host.memory.fail_after = blocks;
+            act(dlg);
+        };
+    }
+    // No dialog and no mark for a null record, nor while the module or the editor is stopped.
+    template <class R>
+    void expect_refused(int request, int (*open)(R *), int (*stop)(), int (*start)(), R &record) {
+        record.cancelled = 7;
+        EXPECT_EQ(editor_window(request, 0, 0), 0);
+        EXPECT_EQ(stop(), 1);
+        EXPECT_EQ(open(&record), 0);
+        EXPECT_EQ(start(), 1);
+        editor_tidyup();
+        EXPECT_EQ(open(&record), 0);
+        EXPECT_EQ(record.cancelled, 7u);
+    }
+    // Runs `open` while `steps` act in turn on the window titled `title`.
+    template <class Open>
+    static int drive(const char *title, std::initializer_list<ui_driver::action> steps, Open open) {
+        ui_driver d;
+        for (const ui_driver::action &step : steps) d.then(title, step);
+        const int result = open();
+        EXPECT_DRIVER_OK(d);
+        return result;
+    }
+};
