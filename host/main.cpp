@@ -155,6 +155,8 @@ void host_app::log(const std::string &line) {
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show) {
     host_app &a = app();
+    // Overruns of host blocks and uses of freed ones fault where they happen.
+    a.memory.guard_pages = true;
     const char *tour = std::strstr(command_line, "--tour");
     if (tour) {
         tour += 6;

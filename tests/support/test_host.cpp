@@ -331,6 +331,9 @@ void test_host::write_setting(const char *section, const char *key, const char *
 void test_host::clear_settings() const { DeleteFileA(settings_path().c_str()); }
 
 void editor_test::SetUp() {
+    // Every host block ends at an untouchable page: an overrun of a record or
+    // a use of a freed one fails the test where it happens.
+    host.memory.guard_pages = true;
     char temp[MAX_PATH];
     GetTempPathA(sizeof temp, temp);
     host.settings_folder = std::string(temp) + "editor_tests\\";
