@@ -34,27 +34,18 @@ size_t scan_decimal(const char *text, float &value) {
     }
     // Converted from a copy of exactly the characters accepted, so that the
     // conversion cannot read more than this reader did ("0x1A" stays 0).
-    value = std::strtof(std::string(start, p).c_str(), nullptr);
+    const float read = std::strtof(std::string(start, p).c_str(), nullptr);
+    if (!std::isfinite(read)) return 0;
+    value = read;
     return static_cast<size_t>(p - text);
 }
 
-namespace {
-// The number at the start of `text`; 0 when there is none or it is not finite.
-size_t scan_finite(const char *text, float &value) {
-    float read = 0;
-    size_t used = scan_decimal(text, read);
-    if (used == 0 || !std::isfinite(read)) return 0;
-    value = read;
-    return used;
-}
-}  // namespace
-
 bool parse_number_strict(const char *text, float &value) {
     float read = 0;
-    size_t used = scan_finite(text, read);
+    size_t used = scan_decimal(text, read);
     if (used == 0 || text[used] != '\0') return false;
     value = read;
     return true;
 }
 
-bool parse_number_lenient(const char *text, float &value) { return scan_finite(text, value) != 0; }
+bool parse_number_lenient(const char *text, float &value) { return scan_decimal(text, value) != 0; }

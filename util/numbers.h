@@ -8,13 +8,14 @@
 // Reads the decimal number (sign, digits with an optional point, optional
 // exponent) that begins `text` after any blanks, as a "%f" scan does. Returns
 // the number of characters used, blanks included; 0, with value untouched,
-// when the text does not begin with a number.
+// when the text does not begin with a number. A number no float can hold
+// (1e39, or forty digits) counts as none: stored, it would be an infinite
+// distance, duration or position.
 size_t scan_decimal(const char *text, float &value);
 
 // The two rules of the order and air-support dialogs, on the "%f%c" pattern
-// (a number after optional blanks, then one more character). Both read only
-// plain decimal text, and refuse a number no float can hold (1e39): such a
-// value is no range, time or position.
+// (a number after optional blanks, then one more character), both over
+// scan_decimal.
 // Strict: the number alone, nothing after it ("12.5" yes; "12.5 ", "12m",
 // "abc" and "" no).
 bool parse_number_strict(const char *text, float &value);

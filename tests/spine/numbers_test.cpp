@@ -19,7 +19,9 @@ TEST(scan_decimal, reads_plain_decimals_and_nothing_else) {
         EXPECT_EQ(scan_decimal(c.text, value), c.used) << c.text;
         EXPECT_EQ(value, c.value) << c.text;
     }
-    for (const char *text : {"", "-", ".", " ", "inf", "nan", "abc", "e5", "+.e1"}) {
+    // Nor is a number no float holds: it would be stored as infinity.
+    const std::string forty_digits(40, '7');
+    for (const char *text : {"", "-", ".", " ", "inf", "nan", "abc", "e5", "+.e1", "1e39", "-1e39x", forty_digits.c_str()}) {
         float value = -99.0f;
         EXPECT_EQ(scan_decimal(text, value), 0u) << text;
         EXPECT_EQ(value, -99.0f) << text;
