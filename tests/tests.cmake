@@ -12,6 +12,17 @@ target_include_directories(test_support PUBLIC ${CMAKE_SOURCE_DIR}/include ${CMA
 target_compile_definitions(test_support PUBLIC EDITOR_IMPLEMENTATION WIN32_LEAN_AND_MEAN)
 target_link_libraries(test_support PUBLIC host_support gtest)
 
+# The hostile tests feed the dialogs overlong and malformed text and host
+# data: they and the editor code they link are built again with stack
+# protection and fortified string functions (static libssp), so that an
+# overflow is caught where it happens. editor.dll keeps its own flags, since
+# it may import system DLLs only.
+set(HARDENING -fstack-protector-strong -D_FORTIFY_SOURCE=2)
+add_library(editor_core_hardened OBJECT ${EDITOR_SOURCES})
+target_include_directories(editor_core_hardened PUBLIC ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR})
+target_compile_definitions(editor_core_hardened PUBLIC EDITOR_IMPLEMENTATION WIN32_LEAN_AND_MEAN)
+target_compile_options(editor_core_hardened PRIVATE ${HARDENING})
+
 file(GLOB TEST_GROUPS LIST_DIRECTORIES true CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*)
 foreach(group_dir ${TEST_GROUPS})
     get_filename_component(group ${group_dir} NAME)
@@ -22,9 +33,17 @@ foreach(group_dir ${TEST_GROUPS})
     if(NOT group_sources)
         continue()
     endif()
+    set(core editor_core)
+    if(group STREQUAL "hostile")
+        set(core editor_core_hardened)
+    endif()
     add_executable(${group}_tests ${group_sources}
-        $<TARGET_OBJECTS:editor_core> $<TARGET_OBJECTS:editor_resources>)
+        $<TARGET_OBJECTS:${core}> $<TARGET_OBJECTS:editor_resources>)
     target_link_libraries(${group}_tests PRIVATE test_support user32 gdi32 comdlg32)
+    if(group STREQUAL "hostile")
+        target_compile_options(${group}_tests PRIVATE ${HARDENING})
+        target_link_libraries(${group}_tests PRIVATE ssp)
+    endif()
     target_link_options(${group}_tests PRIVATE ${STATIC_RUNTIME})
     add_dependencies(${group}_tests editor)
     add_test(NAME ${group} COMMAND ${group}_tests WORKING_DIRECTORY ${CMAKE_BINARY_DIR})

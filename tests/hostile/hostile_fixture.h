@@ -1,0 +1,92 @@
+// Shared set-up of the hostile tests: a started editor over a host with a
+// few names in each list, and records and lists in host memory (whose blocks
+// end at untouchable pages), freed at the end of each test.
+#pragma once
+
+#include <cstring>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "editor/editor.h"
+#include "tests/support/test_host.h"
+
+class hostile_test : public editor_test {
+protected:
+    std::vector<std::function<void()>> cleanup;  // run at the end, in order
+
+    void SetUp() override {
+        editor_test::SetUp();
+        host.formations = {"Column", "Line"};
+        host.markers = {"WP1", "WP2"};
+        host.message_targets = {"HQ"};
+        host.reference_names[0] = {"Bridge1", "Church"};
+        host.existing_names = {"Tank1"};
+        ASSERT_EQ(start_editor(), 1);
+    }
+    void TearDown() override {
+        ui_driver::close_all_dialogs();
+        for (auto &step : cleanup) step();
+        editor_test::TearDown();
+    }
+
+    // A copy of `initial` in host memory.
+    template <class T>
+    T *block(const T &initial) {
+        return static_cast<T *>(std::memcpy(host.memory.alloc(sizeof(T)), &initial, sizeof(T)));
+    }
+    template <class T>
+    T *record(const T &initial) {
+        T *r = block(initial);
+        cleanup.push_back([this, r] { host.memory.free(r, sizeof(T)); });
+        return r;
+    }
+    heli_order_record *order(uint32_t kind) {
+        heli_order_record *o = host.heli.create_order(kind);
+        cleanup.push_back([this, o] { host.heli.destroy_order(o); });
+        return o;
+    }
+    // A host list of copies of `values` (null pointers stay null). At the end
+    // it is freed with the entries it then holds: the editor adds and frees
+    // entries of such lists itself.
+    template <class T>
+    dlist_node *entries(const std::vector<const T *> &values) {
+        std::vector<uintptr_t> copies;
+        for (const T *v : values) copies.push_back(v ? reinterpret_cast<uintptr_t>(block(*v)) : 0);
+        dlist_node *list = host.build_list(copies);
+        cleanup.push_back([this, list] {
+            for (void *entry : hostile_test::values<void>(list))
+                if (entry) host.memory.free(entry, host.memory.size_of(entry));
+            host.free_list(list);
+        });
+        return list;
+    }
+    // Bombing waypoints of these marker names at height 75.5.
+    dlist_node *waypoints(std::initializer_list<const char *> markers) {
+        std::vector<bombing_waypoint> made;
+        for (const char *m : markers) {
+            bombing_waypoint w;
+            std::memset(&w, 0xCD, sizeof w);
+            std::strcpy(w.name, m);
+            w.height = 75.5f;
+            made.push_back(w);
+        }
+        std::vector<const bombing_waypoint *> pointers;
+        for (const bombing_waypoint &w : made) pointers.push_back(&w);
+        return entries(pointers);
+    }
+    dlist_node *names(std::initializer_list<const char *> texts) {
+        std::vector<uintptr_t> values;
+        for (const char *t : texts) values.push_back(reinterpret_cast<uintptr_t>(host.host_text(t)));
+        dlist_node *list = host.build_list(values);
+        cleanup.push_back([this, list] { host.free_list(list); });
+        return list;
+    }
+
+    template <class T>
+    static std::vector<T *> values(const dlist_node *list) {
+        std::vector<T *> out;
+        for (const dlist_node *n = list->next; n != list; n = n->next) out.push_back(reinterpret_cast<T *>(n->value));
+        return out;
+    }
+};
