@@ -26,8 +26,11 @@ int get_item_text(HWND dialog, int id, char *buffer, int size) {
 }
 
 void show_field(HWND dialog, int id, const char *field, size_t size) {
+    // At most size - 1 characters, what the field holds with its terminator:
+    // a field that arrived unterminated shows what OK would store back, as
+    // the lists show it.
     char text[256];
-    copy_field(text, sizeof text, field, size);
+    copy_field(text, size < sizeof text ? size : sizeof text, field, size);
     SetDlgItemTextA(dialog, id, text);
 }
 

@@ -27,7 +27,8 @@ inline int get_item_text(HWND dialog, int id, char (&buffer)[N]) {
     return get_item_text(dialog, id, buffer, static_cast<int>(N));
 }
 
-// Shows a fixed-size field that may lack its terminator.
+// Shows a fixed-size field that may lack its terminator: at most size - 1
+// characters, as the lists show it.
 void show_field(HWND dialog, int id, const char *field, size_t size);
 template <size_t N>
 inline void show_field(HWND dialog, int id, const char (&field)[N]) {

@@ -68,14 +68,13 @@ void format_object_shape(char (&text)[80], uint32_t id, const char *shape) {
     text[prefix + length + 1] = '\0';
 }
 
-// "name, (group)", with "NIL," and " (Unattached)" for missing parts.
+// "name, (group)", with "NIL," and " (Unattached)" for missing parts. Each
+// half of the host's buffer is a 32-byte name field, cut like any other.
 void format_object_names(char (&text)[80], const char (&names)[64]) {
-    char name[33];
-    char group[33];
-    std::memcpy(name, names, 32);
-    name[32] = '\0';
-    std::memcpy(group, names + 32, 32);
-    group[32] = '\0';
+    char name[32];
+    char group[32];
+    copy_field(name, sizeof name, names, 32);
+    copy_field(group, sizeof group, names + 32, 32);
     char name_part[40];
     char group_part[40];
     if (name[0])
