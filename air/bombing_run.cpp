@@ -56,7 +56,9 @@ void refill_route(HWND dialog, const route &r) {
             copy_field(name, waypoint->name);
             height = waypoint->height;
         }
-        char line[64];
+        // Wide enough for a 31-character name and the widest height a float
+        // can hold (44 characters with "%.3f"), so no line is ever cut.
+        char line[96];
         std::snprintf(line, sizeof line, "%10s %.3f", name, static_cast<double>(height));
         SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line));
     }

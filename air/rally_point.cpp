@@ -40,7 +40,9 @@ void refill_locations(HWND dialog) {
     for (arsp_location *location : dlist_values<arsp_location>(edited->arsp_locations)) {
         // A null value still gets its line, so that lines and locations keep
         // the same positions.
-        char line[64] = "";
+        // Wide enough for two of the widest numbers a float can hold (42
+        // characters each with "%6.1f"), so no line is ever cut.
+        char line[96] = "";
         if (location)
             std::snprintf(line, sizeof line, "%6.1f %6.1f", static_cast<double>(location->x),
                           static_cast<double>(location->z));
