@@ -100,8 +100,9 @@ int EDITOR_CDECL op_object_name(uint32_t id, int by_name, char *names) {
     auto found = h.objects.find(id);
     std::memset(names, 0, 64);
     if (found == h.objects.end()) return 0;
-    std::strncpy(names, found->second.first.c_str(), 31);
-    std::strncpy(names + 32, found->second.second.c_str(), 31);
+    // A name of 32 characters or more fills its half with no terminator.
+    std::strncpy(names, found->second.first.c_str(), 32);
+    std::strncpy(names + 32, found->second.second.c_str(), 32);
     return 1;
 }
 

@@ -1,0 +1,436 @@
+// Hostile host data: names that fill their fields to the last byte with no
+// terminator, in every record and list entry the editor reads, next to
+// fields of other letters so that a read past a name would show; nodes that
+// hold no record where lists may have them; and settings files full of
+// garbage. Entries sit at the end of host blocks that end at untouchable
+// pages, so a read past a block faults. Shown names must be cut within their
+// fields, and what OK stores must end within the field.
+#include <cstdlib>
+#include <cstring>
+
+#include "air/bombing_run.h"
+#include "air/rally_point.h"
+#include "ground/object_names.h"
+#include "heli/heli_group.h"
+#include "heli/waypoints.h"
+#include "heli_orders/order_dialogs.h"
+#include "placement/create_objects.h"
+#include "resources/air_ids.h"
+#include "resources/ground_ids.h"
+#include "resources/heli_ids.h"
+#include "resources/heli_order_ids.h"
+#include "resources/placement_ids.h"
+#include "resources/window_ids.h"
+#include "tests/hostile/hostile_fixture.h"
+#include "windows/status.h"
+
+namespace {
+using lines = std::vector<std::string>;
+
+std::string run_of(char c, size_t n = 31) { return std::string(n, c); }
+
+// Fills a fixed field to its last byte: no terminator.
+template <size_t N>
+void fill(char (&field)[N], char c) {
+    std::memset(field, c, N);
+}
+
+// The field's text up to its terminator, and whether it has one.
+template <size_t N>
+std::string text_of(const char (&field)[N]) {
+    return std::string(field, strnlen(field, N));
+}
+
+unit_entry unit(int32_t id, char name, char type_name) {
+    unit_entry u;
+    fill(u.name, name);
+    fill(u.type_name, type_name);
+    u.id = id;
+    return u;
+}
+
+void press(HWND dialog, int id) { ui_command(dialog, id); }
+}  // namespace
+
+class hostile_data_test : public hostile_test {};
+
+// The allocator the hostile tests rely on: a block's last byte is followed
+// by a page the process may not touch, and so is a block once freed.
+TEST_F(hostile_data_test, host_blocks_end_at_an_untouchable_page) {
+    auto untouchable = [](const void *at) {
+        MEMORY_BASIC_INFORMATION info{};
+        VirtualQuery(at, &info, sizeof info);
+        return info.Protect == PAGE_NOACCESS || info.State != MEM_COMMIT;
+    };
+    auto *block = static_cast<char *>(host.memory.alloc(25));
+    EXPECT_FALSE(untouchable(block + 24));
+    EXPECT_TRUE(untouchable(block + 25));
+    host.memory.free(block, 25);
+    EXPECT_TRUE(untouchable(block));
+}
+
+TEST_F(hostile_data_test, ground_dialogs_cut_unterminated_names_within_their_fields) {
+    host.units = {unit(1, 'A', 'B'), test_host::unit(2, "Tank2", "tank")};
+    group_record *g = host.make_group("", {unit(3, 'C', 'D')});
+    fill(g->name, 'G');
+    sarge_order_record &o = g->orders[0];
+    o.type = SARGE_ORDER_HALT;
+    fill(o.name, 'N');
+    fill(o.destination, 'E');
+    fill(o.formation, 'F');
+    fill(o.message, 'M');
+    fill(o.message_target, 'T');
+    g->order_count = 1;
+    contingency_order_record &c = g->contingencies[0];
+    c.trigger = TRIGGER_MESSAGE;
+    c.order = o;
+    fill(c.order.name, 'O');
+    fill(c.next_order, 'X');
+    fill(c.trigger_string, 'S');
+    g->contingency_count = 1;
+    dlist_node *groups = host.make_group_list({g});
+    cleanup.push_back([this, groups] { host.free_group_list(groups); });
+
+    lines listed, available, members, orders, contingencies;
+    std::string name, order_fields, contingency_fields;
+    ui_driver d;
+    d.then("Group List", [&](HWND dlg) {
+        listed = ui_list_items(dlg, IDC_GL_GROUPS);
+        ui_list_select_index(dlg, IDC_GL_GROUPS, 0);
+        press(dlg, IDC_GL_EDIT);
+    });
+    d.then("Dialog", [&](HWND dlg) {
+        name = ui_text(dlg, IDC_GC_NAME);
+        available = ui_list_items(dlg, IDC_GC_AVAILABLE);
+        members = ui_list_items(dlg, IDC_GC_MEMBERS);
+        press(dlg, IDC_GC_EDIT_ORDERS);
+    });
+    d.then("Dialog", [&](HWND dlg) {
+        orders = ui_list_items(dlg, IDC_GO_ORDERS);
+        contingencies = ui_list_items(dlg, IDC_GO_CONTINGENCIES);
+        ui_list_select_index(dlg, IDC_GO_ORDERS, 0);
+        press(dlg, IDC_GO_EDIT);
+    });
+    d.then("Sarge Order", [&](HWND dlg) {
+        order_fields = ui_text(dlg, IDC_ORDER_NAME) + "|" + ui_text(dlg, IDC_ORDER_MESSAGE);
+        press(dlg, IDOK);
+    });
+    d.then("Dialog", [&](HWND dlg) {
+        ui_list_select_index(dlg, IDC_GO_CONTINGENCIES, 0);
+        press(dlg, IDC_GO_C_EDIT);
+    });
+    d.then("Sarge Order", [&](HWND dlg) {
+        contingency_fields = ui_text(dlg, IDC_CT_NEXT_ORDER) + "|" + ui_text(dlg, IDC_CT_VALUE) + "|" +
+                             ui_text(dlg, IDC_ORDER_NAME);
+        press(dlg, IDOK);
+    });
+    d.then("Dialog", [](HWND dlg) { press(dlg, IDOK); });  // Group Orders
+    d.then("Dialog", [](HWND dlg) { press(dlg, IDOK); });  // Group Composition
+    d.then("Group List", [](HWND dlg) { press(dlg, IDOK); });
+    EXPECT_EQ(editor_window(REQUEST_GROUP_LIST, reinterpret_cast<uintptr_t>(groups), 0), 1);
+    EXPECT_DRIVER_OK(d);
+
+    EXPECT_EQ(listed, lines{run_of('G')});
+    EXPECT_EQ(name, run_of('G'));
+    EXPECT_EQ(available, (lines{run_of('A') + " (" + run_of('B') + ")", "Tank2 (tank)"}));
+    EXPECT_EQ(members, lines{run_of('C') + " (" + run_of('D') + ")"});
+    EXPECT_EQ(orders, lines{run_of('N') + " (Halt)"});
+    EXPECT_EQ(contingencies, lines{run_of('O') + " (Message)"});
+    EXPECT_EQ(order_fields, run_of('N') + "|" + run_of('M'));
+    EXPECT_EQ(contingency_fields, run_of('X', 15) + "|" + run_of('S') + "|" + run_of('O'));
+    // What OK stored ends within each field; the fields it does not store
+    // keep their bytes.
+    EXPECT_EQ(text_of(g->name), run_of('G'));
+    EXPECT_EQ(text_of(g->orders[0].name), run_of('N'));
+    EXPECT_EQ(std::string(g->orders[0].destination, 32), run_of('E', 32));
+    EXPECT_EQ(text_of(g->orders[0].message) + "/" + text_of(g->orders[0].message_target), run_of('M') + "/HQ");
+    EXPECT_EQ(text_of(g->contingencies[0].next_order), run_of('X', 15));
+    EXPECT_EQ(text_of(g->contingencies[0].trigger_string), run_of('S'));
+    const unit_entry *member = values<unit_entry>(g->members).at(0);
+    EXPECT_EQ(text_of(member->name) + "|" + text_of(member->type_name), run_of('C') + "|" + run_of('D'));
+}
+
+TEST_F(hostile_data_test, object_name_list_skips_empty_nodes_and_cuts_names) {
+    unit_entry plain = test_host::unit(8, "Jeep3", "jeep"), hostile = unit(7, 'E', 'F');
+    dlist_node *objects = entries<unit_entry>({&hostile, nullptr, &plain});
+    lines shown;
+    std::string edited;
+    ui_driver d;
+    d.then("Dialog", [&](HWND dlg) {
+        shown = ui_list_items(dlg, IDC_ON_LIST);
+        ui_list_select_index(dlg, IDC_ON_LIST, 0);
+        press(dlg, IDC_ON_EDIT_NAME);
+    });
+    d.then("", [&](HWND dlg) {
+        edited = ui_text(dlg, IDC_EN_NAME);
+        press(dlg, IDOK);
+    });
+    d.then("Dialog", [](HWND dlg) { press(dlg, IDOK); });
+    EXPECT_EQ(editor_window(REQUEST_OBJECT_NAMES, reinterpret_cast<uintptr_t>(objects), 0), 1);
+    EXPECT_DRIVER_OK(d);
+    EXPECT_EQ(shown, (lines{"7 : " + run_of('E') + "  (" + run_of('F') + ")", "8 : Jeep3  (jeep)"}));
+    EXPECT_EQ(edited, run_of('E'));
+    EXPECT_EQ(text_of(values<unit_entry>(objects)[0]->name), run_of('E'));
+}
+
+TEST_F(hostile_data_test, heli_dialogs_cut_unterminated_names_and_skip_empty_nodes) {
+    host.rally_points = {test_host::rally_point(5, "")};
+    fill(host.rally_points[0].name, 'R');
+    fill(host.rally_points[0].host_bytes, 'r');
+    heli_group_record *g = host.heli.create_heli_group();
+    cleanup.push_back([this, g] { host.heli.destroy_heli_group(g); });
+    fill(g->name, 'H');
+    g->rally_point_id = 5;
+    unit_entry member = unit(9, 'U', 'V'), spare = unit(10, 'S', 'T');
+    host.heli.append(g->members, block(member));
+    dlist_node *available = entries<unit_entry>({&spare});
+
+    waypoint_record *named = host.heli.create_waypoint(), *unnamed = host.heli.create_waypoint();
+    fill(named->marker_name, 'W');
+    dlist_node *route = host.heli.new_list();
+    for (const void *value : {static_cast<const void *>(named), static_cast<const void *>(nullptr),
+                              static_cast<const void *>(unnamed)})
+        host.heli.append(route, value);
+    cleanup.push_back([this, route] { host.heli.destroy_waypoints(route); });
+
+    // Orders whose entries fill their names, each list with an empty node;
+    // all but the patrol go with the waypoint.
+    heli_order_record *deploy = host.heli.create_order(HELI_ORDER_DEPLOY);
+    heli_order_record *pickup = host.heli.create_order(HELI_ORDER_PICKUP);
+    heli_order_record *wait = host.heli.create_order(HELI_ORDER_WAIT);
+    heli_order_record *patrol = order(HELI_ORDER_PATROL);
+    deploy_entry cargo{};
+    fill(cargo.name, 'P');
+    cargo.x = 1;
+    cargo.z = 2;
+    pickup_entry sarge;
+    fill(sarge.name, 'K');  // all 25 bytes, the last before the untouchable page
+    for (const void *value : {static_cast<const void *>(block(cargo)), static_cast<const void *>(nullptr)})
+        host.heli.append(deploy->body.deploy, value);
+    for (const void *value : {static_cast<const void *>(block(sarge)), static_cast<const void *>(nullptr)})
+        host.heli.append(pickup->body.pickup, value);
+    patrol_point *point = host.heli.create_patrol_point("x");
+    fill(point->marker_name, 'Q');
+    host.heli.append(patrol->body.patrol->points, point);
+    wait->body.wait->mode = WAIT_FOR_OBJECT;
+    fill(wait->body.wait->name, 'Z');
+    for (heli_order_record *o : {deploy, pickup, wait}) host.heli.append(unnamed->orders, o);
+    host.heli.append(unnamed->orders, nullptr);
+    host.markers = {run_of('L', 40), "WP1"};
+    host.existing_names = {};
+
+    std::string group_name, rally, deployed, picked, waited;
+    lines group_lines, route_lines, order_lines, marker_lines, deploy_lines, pickup_lines, patrol_lines;
+    ui_driver d;
+    d.then("Edit Heli Group", [&](HWND dlg) {
+        group_name = ui_text(dlg, IDC_HG_NAME);
+        rally = ui_combo_selected(dlg, IDC_HG_RALLY_POINT);
+        group_lines = ui_list_items(dlg, IDC_HG_MEMBERS);
+        for (const std::string &line : ui_list_items(dlg, IDC_HG_AVAILABLE)) group_lines.push_back(line);
+        press(dlg, IDOK);
+    });
+    d.then("Edit Waypoints", [&](HWND dlg) {
+        route_lines = ui_list_items(dlg, IDC_WPS_LIST);
+        press(dlg, IDCANCEL);
+    });
+    d.then("Edit Waypoint", [&](HWND dlg) {
+        order_lines = ui_list_items(dlg, IDC_WP_ORDERS);
+        marker_lines = ui_combo_items(dlg, IDC_WP_MARKER);
+        press(dlg, IDCANCEL);
+    });
+    // The entry's name into the edits (a double-click), then Update with it.
+    d.then("Edit Deploy Order", [&](HWND dlg) {
+        deploy_lines = ui_list_items(dlg, IDC_DEPLOY_LIST);
+        ui_list_select_index(dlg, IDC_DEPLOY_LIST, 0);
+        ui_list_double_click(dlg, IDC_DEPLOY_LIST);
+    });
+    d.then("Edit Deploy Order", [&](HWND dlg) {
+        deployed = ui_text(dlg, IDC_DEPLOY_NAME);
+        ui_list_select_index(dlg, IDC_DEPLOY_LIST, 0);
+        press(dlg, IDC_DEPLOY_UPDATE);
+    });
+    d.answer_box("Editor Question", IDYES);
+    d.then("Edit Deploy Order", [](HWND dlg) { press(dlg, IDOK); });
+    d.then("Edit Pickup Order", [&](HWND dlg) {
+        pickup_lines = ui_list_items(dlg, IDC_PICKUP_LIST);
+        ui_list_select_index(dlg, IDC_PICKUP_LIST, 0);
+        ui_list_double_click(dlg, IDC_PICKUP_LIST);
+    });
+    d.then("Edit Pickup Order", [&](HWND dlg) {
+        picked = ui_text(dlg, IDC_PICKUP_NAME);
+        press(dlg, IDOK);
+    });
+    d.then("Edit Patrol Order", [&](HWND dlg) {
+        patrol_lines = ui_list_items(dlg, IDC_PATROL_POINTS);
+        for (const std::string &line : ui_list_items(dlg, IDC_PATROL_MARKERS)) patrol_lines.push_back(line);
+        press(dlg, IDOK);
+    });
+    d.then("Edit Wait Order", [&](HWND dlg) {
+        waited = ui_text(dlg, IDC_WAIT_NAME);
+        press(dlg, IDOK);
+    });
+    d.answer_box("Editor Question", IDYES);
+    HWND owner = host.main_window;
+    EXPECT_EQ(edit_heli_group(owner, g, available), 1);
+    EXPECT_EQ(edit_waypoints(owner, route), 0);
+    EXPECT_EQ(edit_waypoint(owner, unnamed), 0);
+    EXPECT_EQ(edit_deploy_order(owner, deploy->body.deploy), 1);
+    EXPECT_EQ(edit_pickup_order(owner, pickup->body.pickup), 1);
+    EXPECT_EQ(edit_patrol_order(owner, patrol->body.patrol), 1);
+    EXPECT_EQ(edit_wait_order(owner, wait->body.wait), 1);
+    EXPECT_DRIVER_OK(d);
+
+    EXPECT_EQ(group_name, run_of('H'));
+    EXPECT_EQ(rally, run_of('R'));
+    EXPECT_EQ(group_lines, (lines{run_of('U'), run_of('S')}));
+    EXPECT_EQ(text_of(g->name), run_of('H'));
+    EXPECT_EQ(route_lines, (lines{run_of('W'), "Waypoint 1"}));
+    EXPECT_EQ(order_lines, (lines{"Deploy", "Pickup", "Wait"}));
+    EXPECT_EQ(marker_lines, (lines{"None Selected", run_of('L'), "WP1"}));
+    EXPECT_EQ(deploy_lines, lines{run_of('P') + "    1.0    2.0"});
+    EXPECT_EQ(deployed, run_of('P'));
+    EXPECT_EQ(text_of(values<deploy_entry>(deploy->body.deploy)[0]->name), run_of('P'));
+    EXPECT_EQ(pickup_lines, lines{run_of('K', 24)});
+    EXPECT_EQ(picked, run_of('K', 24));
+    EXPECT_EQ(patrol_lines, (lines{run_of('Q'), run_of('L'), "WP1"}));
+    EXPECT_EQ(waited, run_of('Z'));
+    EXPECT_EQ(text_of(wait->body.wait->name), run_of('Z'));
+}
+
+TEST_F(hostile_data_test, air_dialogs_cut_unterminated_names_and_offer_no_name_that_cannot_fit) {
+    bombing_waypoint inbound;
+    std::memset(&inbound, 0xCD, sizeof inbound);
+    fill(inbound.name, 'I');
+    inbound.height = -3.4e38f;  // numbers as wide as a float's: shown whole
+    bombing_run_record run{};
+    fill(run.name, 'B');
+    fill(run.aircraft_type, 'T');
+    run.aircraft_count = 2;
+    run.ingress = entries<bombing_waypoint>({&inbound});
+    run.egress = waypoints({"WP2"});
+    const std::string long_type = run_of('A', 40), full_type = run_of('A', 32);
+    run.aircraft_types = names({"A-10", long_type.c_str(), full_type.c_str(), run_of('T').c_str()});
+    bombing_run_record *r = record(run);
+    rally_point_record point{};
+    fill(point.name, 'R');
+    const arsp_location far_off = {-3.4e38f, 0.0f, 3.4e38f};
+    point.arsp_locations = entries<arsp_location>({&far_off});
+    rally_point_record *p = record(point);
+    host.markers = {run_of('L', 40), run_of('M'), "WP1"};
+
+    std::string run_name, type, point_name;
+    lines ingress, types, markers, locations;
+    ui_driver d;
+    d.then("Edit Bombing Run Details", [&](HWND dlg) {
+        run_name = ui_text(dlg, IDC_BR_NAME);
+        ingress = ui_list_items(dlg, IDC_BR_INGRESS);
+        types = ui_combo_items(dlg, IDC_BR_AIRCRAFT_TYPE);
+        type = ui_combo_selected(dlg, IDC_BR_AIRCRAFT_TYPE);
+        markers = ui_list_items(dlg, IDC_BR_MARKERS);
+        press(dlg, IDOK);
+    });
+    d.then("Edit Rally Point Details", [&](HWND dlg) {
+        point_name = ui_text(dlg, IDC_RP_NAME);
+        locations = ui_list_items(dlg, IDC_RP_ARSP);
+        press(dlg, IDOK);
+    });
+    EXPECT_EQ(edit_bombing_run(r), 1);
+    EXPECT_EQ(edit_rally_point(p), 1);
+    EXPECT_DRIVER_OK(d);
+    EXPECT_EQ(run_name, run_of('B'));
+    ASSERT_EQ(ingress.size(), 1u);
+    EXPECT_EQ(ingress[0].substr(0, 32), run_of('I') + " ");
+    EXPECT_EQ(std::strtof(ingress[0].c_str() + 32, nullptr), inbound.height);
+    ASSERT_EQ(locations.size(), 1u);
+    char *z = nullptr;
+    EXPECT_EQ(std::strtof(locations[0].c_str(), &z), far_off.x);
+    EXPECT_EQ(std::strtof(z, nullptr), far_off.z);
+    EXPECT_EQ(types, (lines{"A-10", run_of('T')}));
+    EXPECT_EQ(type, run_of('T'));
+    EXPECT_EQ(markers, (lines{run_of('M'), "WP1"}));
+    EXPECT_EQ(text_of(r->name) + "|" + text_of(r->aircraft_type), run_of('B') + "|" + run_of('T'));
+    EXPECT_EQ(point_name, run_of('R'));
+    EXPECT_EQ(text_of(p->name), run_of('R'));
+}
+
+// A preset reference name that fills its 64 bytes, and an info line whose
+// shape name and object names are longer than the line: each cut in place.
+TEST_F(hostile_data_test, reference_name_and_info_line_cut_what_the_host_overfills) {
+    host.reference_names[0] = {run_of('R', 63), "Church"};
+    create_objects_record objects{};
+    objects.preset = objects.enabled = CO_TYPE | CO_REF_OBJ;
+    fill(objects.ref_obj, 'R');
+    create_objects_record *o = record(objects);
+    std::string selected;
+    ui_driver d;
+    d.then("Create New Objects", [&](HWND dlg) {
+        selected = ui_text(dlg, IDC_CO_REF_OBJ);
+        press(dlg, IDOK);
+    });
+    EXPECT_EQ(create_objects_dialog(o), 1);
+    EXPECT_DRIVER_OK(d);
+    EXPECT_EQ(selected, run_of('R', 63));
+    EXPECT_EQ(text_of(o->ref_obj), run_of('R', 63));
+    EXPECT_EQ(std::string(create_objects_remembered().ref_obj), run_of('R', 63));
+
+    HWND status = nullptr;
+    for (HWND w : ui_thread_windows())
+        if (is_status_window(w)) status = w;
+    ASSERT_NE(status, nullptr);
+    editor_state state = editor_stored_state();
+    const std::string shape = run_of('S', 300);
+    state.info_kind = INFO_OBJECT;
+    state.info.object.object_id = 42;
+    state.shape_name = shape.c_str();
+    editor_update(state);
+    EXPECT_EQ(ui_text(status, IDC_ST_INFO_TEXT), "42, (" + run_of('S', 79 - 6) + ")");
+    // Names the host writes without terminators: each read within its 32 bytes.
+    host.objects[42] = {run_of('N', 40), run_of('G', 40)};
+    state.info.object.named = 1;
+    editor_update(state);
+    EXPECT_EQ(ui_text(status, IDC_ST_INFO_TEXT), run_of('N') + ", (" + run_of('G') + ")");
+}
+
+// Settings files with 10 KB values, garbage lines and sections, and
+// positions that are no numbers: every window stays where it would be
+// without them, every remembered choice keeps its default, and tidy-up
+// writes sane values back.
+TEST_F(hostile_data_test, garbage_settings_leave_windows_and_defaults_alone) {
+    auto window_rects = [&] {
+        std::string out;
+        for (HWND w : ui_thread_windows()) {
+            if (!is_editor_window(w) && w != host.main_window) continue;
+            RECT r;
+            GetWindowRect(w, &r);
+            out += std::to_string(r.left) + "," + std::to_string(r.top) + " ";
+        }
+        return out;
+    };
+    const std::string clean = window_rects();
+    const create_objects_memory defaults = create_objects_remembered();
+    editor_tidyup();
+
+    const std::string huge(10240, '9'), junk(10240, 'x');
+    std::string file = "\xEF\xBB\xBF garbage before any section\r\n[Main\r\nPosition=5,5\r\n[]\r\n=nothing\r\n\x01\x02\x03\r\n";
+    file += "[Main]\r\nPosition=" + huge + "\r\n[ToolBar]\r\nPosition=abc,def\r\n[Status]\r\nPosition=12\r\n";
+    file += "[Query]\r\nType=" + junk + "\r\nRefObj=" + junk + "\r\nNumber=%s%n\r\nObjDist=nan\r\nCamDist=1e39\r\n";
+    file += "AAlign=\r\nAACamRel==\r\nOrient=,\r\nOCamrel=\xFF\xFE\r\n[" + junk + "]\r\n" + junk + "\r\n";
+    HANDLE out = CreateFileA(host.settings_path().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    ASSERT_NE(out, INVALID_HANDLE_VALUE);
+    DWORD written = 0;
+    WriteFile(out, file.data(), static_cast<DWORD>(file.size()), &written, nullptr);
+    CloseHandle(out);
+
+    ASSERT_EQ(start_editor(), 1);
+    EXPECT_EQ(window_rects(), clean);
+    const create_objects_memory &m = create_objects_remembered();
+    EXPECT_EQ(std::string(m.ref_obj), run_of('x', 63));
+    // Everything but the name is as if the file said nothing.
+    create_objects_memory expected = defaults;
+    std::memcpy(expected.ref_obj, m.ref_obj, sizeof m.ref_obj);
+    EXPECT_EQ(std::memcmp(&m, &expected, sizeof m), 0);
+    editor_tidyup();
+    EXPECT_EQ(host.read_setting("Main", "Position"), "50,50");
+    EXPECT_EQ(host.read_setting("Query", "CamDist"), "100.000000");
+    EXPECT_EQ(host.read_setting("Query", "RefObj"), run_of('x', 63));
+}
