@@ -166,17 +166,14 @@ struct text_case {
     bool known = false;                       // the host knows the name typed
 };
 
-// Puts the text into an edit; into a combo box's edit field it is typed
-// over whatever is there, so that the combo box lets go of its selected line
-// as it does for a designer's typing.
+// Puts the text into an edit; into a combo box's edit field, after which
+// the combo box hears of the change as it does of a designer's typing (and
+// lets go of its selected line).
 void type(HWND dialog, int id, const std::string &text) {
     HWND control = GetDlgItem(dialog, id);
-    if (HWND field = FindWindowExA(control, nullptr, "Edit", nullptr)) {
-        SendMessageA(field, EM_SETSEL, 0, -1);
-        SendMessageA(field, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
-    } else {
-        SetWindowTextA(control, text.c_str());
-    }
+    HWND field = FindWindowExA(control, nullptr, "Edit", nullptr);
+    SetWindowTextA(field ? field : control, text.c_str());
+    if (field) SendMessageA(control, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(field), EN_CHANGE), reinterpret_cast<LPARAM>(field));
 }
 
 // Where two records differ, by offset.

@@ -69,6 +69,9 @@ void check_host(const std::string &after, bool idle);
 // closes what is open.
 void designer_start(bool trace);
 void designer_stop();
+// With no dialog up: `actions` actions on the toolbar and the Status window,
+// served by a message loop of the host's.
+void designer_modeless(long actions);
 // The most recent designer's view, for the hang report.
 std::string designer_last_seen();
 // Milliseconds since the designer last acted.

@@ -18,15 +18,24 @@ const std::set<std::string> box_titles = {"Editor Error", "Editor Warning", "Edi
                                           "Name Error"};
 const char save_title[] = "Save Editor File...";
 
-// What the designer does, with how often it does it when the dialog offers it.
-// A message box's answer is not chosen among these: boxes are only answered.
-enum action_kind { ACT_CLICK, ACT_OK, ACT_CANCEL, ACT_CLOSE_BOX, ACT_CHECK, ACT_TYPE, ACT_COMBO, ACT_SELECT, ACT_DOUBLE_CLICK, ACT_MULTI, ACT_KIND_COUNT, ACT_BOX = ACT_KIND_COUNT };
-const char *const kind_names[ACT_KIND_COUNT + 1] = {"click", "ok",     "cancel", "close box",    "check",        "type",
-                                                "combo", "select", "double-click", "multi-select", "box answer"};
-const uint32_t kind_weights[ACT_KIND_COUNT] = {30, 5, 4, 2, 6, 22, 10, 12, 5, 10};
+// What the designer does, with how often it does it when the dialog offers
+// it. Message boxes are only answered, and the toolbar and the Status window
+// (which stay enabled under the dialogs) are reached now and then.
+enum action_kind {
+    ACT_CLICK, ACT_OK, ACT_CANCEL, ACT_CLOSE_BOX, ACT_KEY, ACT_CHECK, ACT_TYPE, ACT_COMBO, ACT_SELECT,
+    ACT_DOUBLE_CLICK, ACT_MULTI, ACT_KIND_COUNT, ACT_BOX = ACT_KIND_COUNT, ACT_TOOLBAR, ACT_STATUS
+};
+const char *const kind_names[] = {"click",  "ok",     "cancel",       "close box",    "Enter or Esc",
+                                  "check",  "type",   "combo",        "select",       "double-click",
+                                  "multi-select", "box answer", "toolbar", "Status window"};
+const uint32_t kind_weights[ACT_KIND_COUNT] = {30, 5, 4, 2, 3, 6, 22, 10, 12, 5, 10};
+// Percent of the ticks with a dialog up that go to the modeless windows.
+constexpr uint32_t modeless_share = 3;
 
 struct designer_state {
     UINT_PTR timer = 0;
+    long modeless_turns = 0;  // actions asked for while no dialog is up
+    DWORD started = 0;
     bool busy = false;
     bool trace = false;
     std::set<HWND> open;  // the dialogs seen up at the last tick
@@ -65,7 +74,7 @@ void record(const std::string &title, action_kind kind, int id, long detail) {
     for (const char *c = line; *c; ++c) f.digest = (f.digest ^ static_cast<unsigned char>(*c)) * 16777619u;
     ++f.actions;
     ++f.actions_by_kind[kind_names[kind]];
-    if (designer.trace) std::printf("  %s\n", line);
+    if (designer.trace) std::printf("  %8lu ms  %s\n", static_cast<unsigned long>(GetTickCount() - designer.started), line);
 }
 
 struct control {
@@ -175,9 +184,9 @@ void act(HWND dialog) {
         return answer_box(dialog, title);  // the file dialog's own questions
     }
     const offered o = controls_of(dialog);
-    const bool has[ACT_KIND_COUNT] = {!o.push.empty(), true, true, true, !o.check.empty(), !o.text.empty(),
-                                  !o.combo.empty(), !o.list.empty(), !(o.list.empty() && o.multi.empty()),
-                                  !o.multi.empty()};
+    const bool has[ACT_KIND_COUNT] = {!o.push.empty(),  true, true, true, true, !o.check.empty(), !o.text.empty(),
+                                      !o.combo.empty(), !o.list.empty(), !(o.list.empty() && o.multi.empty()),
+                                      !o.multi.empty()};
     uint32_t total = 0;
     for (int k = 0; k < ACT_KIND_COUNT; ++k) total += has[k] ? kind_weights[k] : 0;
     monkey_random &r = random_source();
@@ -204,17 +213,26 @@ void act(HWND dialog) {
         record(title, ACT_CLOSE_BOX, 0, 0);
         PostMessageA(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
         break;
+    case ACT_KEY: {
+        // To the control with the focus, as the keyboard would: the dialog
+        // manager turns it into its default button or Cancel.
+        const WPARAM key = r.percent(50) ? VK_RETURN : VK_ESCAPE;
+        HWND focus = GetFocus();
+        record(title, ACT_KEY, 0, static_cast<long>(key));
+        PostMessageA(focus && IsChild(dialog, focus) ? focus : dialog, WM_KEYDOWN, key, 1);
+        break;
+    }
     case ACT_TYPE: {
         const control &c = r.pick(o.text);
         const uint32_t which = r.below(static_cast<uint32_t>(text_pool().size()));
         record(title, ACT_TYPE, c.id, which);
-        // Into an edit; into a combo box's edit field it is typed over what
-        // is there, so that the combo box lets go of its selected line as it
-        // does for typing. Either way the dialog is told of the change.
+        // Into an edit; into a combo box's edit field, after which the combo
+        // box hears of the change as it does of typing (it lets go of its
+        // selected line). Either way the dialog is told of the change.
         const char *text = text_pool()[which].c_str();
         if (HWND field = FindWindowExA(c.window, nullptr, "Edit", nullptr)) {
-            SendMessageA(field, EM_SETSEL, 0, -1);
-            SendMessageA(field, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
+            SetWindowTextA(field, text);
+            SendMessageA(c.window, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(field), EN_CHANGE), reinterpret_cast<LPARAM>(field));
         } else {
             SetWindowTextA(c.window, text);
         }
@@ -246,6 +264,35 @@ void act(HWND dialog) {
     }
 }
 
+HWND editor_window_where(bool toolbar) {
+    for (HWND window : ui_thread_windows())
+        if (app().is_editor(window) && (class_of(window) == "#32770") &&
+            (ui_window_text(window) == "Status") != toolbar && IsWindowEnabled(window))
+            return window;
+    return nullptr;
+}
+
+// The toolbar (a mode button) or the Status window (text typed into one of
+// its six fields while it is active, which goes to the host at once).
+void act_modeless() {
+    monkey_random &r = random_source();
+    const bool toolbar = r.percent(40);
+    HWND window = editor_window_where(toolbar);
+    if (!window) return;
+    const offered o = controls_of(window);
+    if (toolbar && !o.check.empty()) {  // the mode buttons are push-like radio buttons
+        const control &c = r.pick(o.check);
+        record("ToolBar", ACT_TOOLBAR, c.id, 0);
+        PostMessageA(c.window, BM_CLICK, 0, 0);
+    } else if (!toolbar && !o.text.empty()) {
+        const control &c = r.pick(o.text);
+        const uint32_t which = r.below(static_cast<uint32_t>(text_pool().size()));
+        record("Status", ACT_STATUS, c.id, which);
+        SetActiveWindow(window);
+        SetWindowTextA(c.window, text_pool()[which].c_str());
+    }
+}
+
 // Once the budget is spent: the topmost dialog is closed, a box answered No
 // (or ACT_OK), until nothing is left open.
 void wind_down(HWND dialog) {
@@ -273,10 +320,17 @@ void CALLBACK on_tick(HWND, UINT, UINT_PTR, DWORD) {
     std::vector<HWND> enabled;
     for (HWND window : windows)
         if (IsWindowEnabled(window)) enabled.push_back(window);
-    if (!enabled.empty()) {
-        monkey_figures &f = figures();
+    monkey_figures &f = figures();
+    if (enabled.empty() && designer.modeless_turns > 0) {
+        --designer.modeless_turns;
+        act_modeless();
+        designer.last_action = GetTickCount();
+    } else if (!enabled.empty()) {
         if (f.actions >= f.budget) {
             wind_down(enabled.front());
+        } else if (random_source().percent(modeless_share)) {
+            act_modeless();
+            designer.last_action = GetTickCount();
         } else {
             // Mostly the topmost dialog; now and then one underneath that is
             // still enabled (Group List stays so under Group Composition).
@@ -308,7 +362,7 @@ const std::vector<std::string> &text_pool() {
 void designer_start(bool trace) {
     InitializeCriticalSection(&designer.seen_lock);
     designer.trace = trace;
-    designer.last_action = GetTickCount();
+    designer.last_action = designer.started = GetTickCount();
     designer.timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, on_tick);
 }
 
@@ -325,3 +379,15 @@ std::string designer_last_seen() {
 }
 
 DWORD designer_idle_ms() { return GetTickCount() - designer.last_action; }
+
+void designer_modeless(long actions) {
+    designer.modeless_turns = actions;
+    // The editor's windows are served by the host's own message loop.
+    MSG msg;
+    while (designer.modeless_turns > 0 && GetMessageA(&msg, nullptr, 0, 0) > 0) {
+        TranslateMessage(&msg);
+        DispatchMessageA(&msg);
+    }
+    // Let the last click reach its window.
+    while (PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&msg);
+}

@@ -279,6 +279,10 @@ int save_file(monkey_random &r, int code) {
     return ask(code, buffer, r.pick(sizes));
 }
 
+// Now and then no request: the designer turns to the toolbar and the
+// Status window while the host's own loop runs.
+constexpr int no_request = -1;
+
 // One request, chosen by weight.
 void run_request(monkey_random &r) {
     struct choice {
@@ -291,7 +295,7 @@ void run_request(monkey_random &r) {
         {REQUEST_EDIT_HELI_GROUP, 12}, {REQUEST_LIST_HELI_GROUPS, 16}, {REQUEST_MESSAGE_BOX, 2},
         {REQUEST_CONFIRM_QUIT, 1},    {REQUEST_INVALID_SELECTION, 1},  {REQUEST_NOTHING_SELECTED, 1},
         {REQUEST_CONFIRM_DELETE, 1},  {REQUEST_UNMATCHED_GROUP, 1},    {REQUEST_SAVE_WORLD_FILE, 1},
-        {REQUEST_SAVE_MISSION_FILE, 2},
+        {REQUEST_SAVE_MISSION_FILE, 2}, {no_request, 4},
     };
     uint32_t total = 0;
     for (const choice &c : choices) total += c.weight;
@@ -322,9 +326,10 @@ void run_request(monkey_random &r) {
     case REQUEST_MESSAGE_BOX: answer = ask(chosen->code, r.pick(text_pool()).c_str(), r.below(6)); break;
     case REQUEST_SAVE_WORLD_FILE:
     case REQUEST_SAVE_MISSION_FILE: answer = save_file(r, chosen->code); break;
+    case no_request: designer_modeless(1 + static_cast<long>(r.below(5))); break;
     default: answer = ask(chosen->code, nullptr); break;
     }
-    ++run_figures.requests;
+    if (chosen->code != no_request) ++run_figures.requests;
     if (answer != 0 && answer != 1) monkey_fail("request", "request " + std::to_string(chosen->code) + " answered " +
                                                                std::to_string(answer));
     check_host("request " + std::to_string(chosen->code), true);
