@@ -1,16 +1,15 @@
 // Hostile host data: names that fill their fields to the last byte with no
 // terminator, in every record and list entry the editor reads, next to
 // fields of other letters so that a read past a name would show; nodes that
-// hold no record where lists may have them; and settings files full of
-// garbage. Entries sit at the end of host blocks that end at untouchable
-// pages, so a read past a block faults. Shown names must be cut within their
-// fields, and what OK stores must end within the field.
+// hold no record where lists may have them; numbers as wide as a float's;
+// and settings files full of garbage. Entries sit at the end of host blocks
+// that end at untouchable pages, so a read past a block faults. Shown names
+// must be cut within their fields, and what OK stores must end within them.
 #include <cstdlib>
 #include <cstring>
 
 #include "air/bombing_run.h"
 #include "air/rally_point.h"
-#include "ground/object_names.h"
 #include "heli/heli_group.h"
 #include "heli/waypoints.h"
 #include "heli_orders/order_dialogs.h"
@@ -25,9 +24,9 @@
 #include "windows/status.h"
 
 namespace {
-using lines = std::vector<std::string>;
-
 std::string run_of(char c, size_t n = 31) { return std::string(n, c); }
+// A unit line of the ground dialogs, "name (type)", of two runs of 31.
+std::string pair_of(char name, char type) { return run_of(name) + " (" + run_of(type) + ")"; }
 
 // Fills a fixed field to its last byte: no terminator.
 template <size_t N>
@@ -35,7 +34,7 @@ void fill(char (&field)[N], char c) {
     std::memset(field, c, N);
 }
 
-// The field's text up to its terminator, and whether it has one.
+// The field's text up to its terminator or its end.
 template <size_t N>
 std::string text_of(const char (&field)[N]) {
     return std::string(field, strnlen(field, N));
@@ -49,10 +48,36 @@ unit_entry unit(int32_t id, char name, char type_name) {
     return u;
 }
 
-void press(HWND dialog, int id) { ui_command(dialog, id); }
+constexpr int double_click = -1;
+
+// A step that notes what the dialog shows in `ids` ("|" between controls, a
+// list's lines joined by "/", a combo box's selection), then selects line 0
+// of `select` (if any) and presses `button` (0: nothing; double_click:
+// double-clicks `select`).
+ui_driver::action look(std::string &into, std::vector<int> ids, int button = IDOK, int select = 0) {
+    return [&into, ids, button, select](HWND dialog) {
+        into.clear();
+        for (int id : ids) {
+            char kind[16] = "";
+            GetClassNameA(GetDlgItem(dialog, id), kind, sizeof kind);
+            std::string shown;
+            if (!lstrcmpiA(kind, "ListBox"))
+                for (const std::string &line : ui_list_items(dialog, id)) shown += (shown.empty() ? "" : "/") + line;
+            else
+                shown = ui_text(dialog, id);
+            into += (into.empty() ? "" : "|") + shown;
+        }
+        if (select) ui_list_select_index(dialog, select, 0);
+        if (button == double_click) ui_list_double_click(dialog, select);
+        else if (button) ui_command(dialog, button);
+    };
+}
 }  // namespace
 
-class hostile_data_test : public hostile_test {};
+class hostile_data_test : public hostile_test {
+protected:
+    std::string ignored;
+};
 
 // The allocator the hostile tests rely on: a block's last byte is followed
 // by a page the process may not touch, and so is a block once freed.
@@ -91,61 +116,32 @@ TEST_F(hostile_data_test, ground_dialogs_cut_unterminated_names_within_their_fie
     dlist_node *groups = host.make_group_list({g});
     cleanup.push_back([this, groups] { host.free_group_list(groups); });
 
-    lines listed, available, members, orders, contingencies;
-    std::string name, order_fields, contingency_fields;
+    std::string listed, composition, orders, order, contingency;
     ui_driver d;
-    d.then("Group List", [&](HWND dlg) {
-        listed = ui_list_items(dlg, IDC_GL_GROUPS);
-        ui_list_select_index(dlg, IDC_GL_GROUPS, 0);
-        press(dlg, IDC_GL_EDIT);
-    });
-    d.then("Dialog", [&](HWND dlg) {
-        name = ui_text(dlg, IDC_GC_NAME);
-        available = ui_list_items(dlg, IDC_GC_AVAILABLE);
-        members = ui_list_items(dlg, IDC_GC_MEMBERS);
-        press(dlg, IDC_GC_EDIT_ORDERS);
-    });
-    d.then("Dialog", [&](HWND dlg) {
-        orders = ui_list_items(dlg, IDC_GO_ORDERS);
-        contingencies = ui_list_items(dlg, IDC_GO_CONTINGENCIES);
-        ui_list_select_index(dlg, IDC_GO_ORDERS, 0);
-        press(dlg, IDC_GO_EDIT);
-    });
-    d.then("Sarge Order", [&](HWND dlg) {
-        order_fields = ui_text(dlg, IDC_ORDER_NAME) + "|" + ui_text(dlg, IDC_ORDER_MESSAGE);
-        press(dlg, IDOK);
-    });
-    d.then("Dialog", [&](HWND dlg) {
-        ui_list_select_index(dlg, IDC_GO_CONTINGENCIES, 0);
-        press(dlg, IDC_GO_C_EDIT);
-    });
-    d.then("Sarge Order", [&](HWND dlg) {
-        contingency_fields = ui_text(dlg, IDC_CT_NEXT_ORDER) + "|" + ui_text(dlg, IDC_CT_VALUE) + "|" +
-                             ui_text(dlg, IDC_ORDER_NAME);
-        press(dlg, IDOK);
-    });
-    d.then("Dialog", [](HWND dlg) { press(dlg, IDOK); });  // Group Orders
-    d.then("Dialog", [](HWND dlg) { press(dlg, IDOK); });  // Group Composition
-    d.then("Group List", [](HWND dlg) { press(dlg, IDOK); });
+    d.then("Group List", look(listed, {IDC_GL_GROUPS}, IDC_GL_EDIT, IDC_GL_GROUPS));
+    d.then("Dialog", look(composition, {IDC_GC_NAME, IDC_GC_AVAILABLE, IDC_GC_MEMBERS}, IDC_GC_EDIT_ORDERS));
+    d.then("Dialog", look(orders, {IDC_GO_ORDERS, IDC_GO_CONTINGENCIES}, IDC_GO_EDIT, IDC_GO_ORDERS));
+    d.then("Sarge Order", look(order, {IDC_ORDER_NAME, IDC_ORDER_MESSAGE, IDC_ORDER_MESSAGE_TARGET}));
+    d.then("Dialog", look(ignored, {}, IDC_GO_C_EDIT, IDC_GO_CONTINGENCIES));
+    d.then("Sarge Order", look(contingency, {IDC_CT_NEXT_ORDER, IDC_CT_VALUE, IDC_ORDER_NAME}));
+    for (const char *title : {"Dialog", "Dialog", "Group List"}) d.then(title, look(ignored, {}));
     EXPECT_EQ(editor_window(REQUEST_GROUP_LIST, reinterpret_cast<uintptr_t>(groups), 0), 1);
     EXPECT_DRIVER_OK(d);
 
-    EXPECT_EQ(listed, lines{run_of('G')});
-    EXPECT_EQ(name, run_of('G'));
-    EXPECT_EQ(available, (lines{run_of('A') + " (" + run_of('B') + ")", "Tank2 (tank)"}));
-    EXPECT_EQ(members, lines{run_of('C') + " (" + run_of('D') + ")"});
-    EXPECT_EQ(orders, lines{run_of('N') + " (Halt)"});
-    EXPECT_EQ(contingencies, lines{run_of('O') + " (Message)"});
-    EXPECT_EQ(order_fields, run_of('N') + "|" + run_of('M'));
-    EXPECT_EQ(contingency_fields, run_of('X', 15) + "|" + run_of('S') + "|" + run_of('O'));
-    // What OK stored ends within each field; the fields it does not store
-    // keep their bytes.
-    EXPECT_EQ(text_of(g->name), run_of('G'));
-    EXPECT_EQ(text_of(g->orders[0].name), run_of('N'));
-    EXPECT_EQ(std::string(g->orders[0].destination, 32), run_of('E', 32));
-    EXPECT_EQ(text_of(g->orders[0].message) + "/" + text_of(g->orders[0].message_target), run_of('M') + "/HQ");
-    EXPECT_EQ(text_of(g->contingencies[0].next_order), run_of('X', 15));
-    EXPECT_EQ(text_of(g->contingencies[0].trigger_string), run_of('S'));
+    EXPECT_EQ(listed, run_of('G'));
+    EXPECT_EQ(composition, run_of('G') + "|" + pair_of('A', 'B') + "/Tank2 (tank)|" + pair_of('C', 'D'));
+    EXPECT_EQ(orders, run_of('N') + " (Halt)|" + run_of('O') + " (Message)");
+    // A stored target that is no host name shows the first host name.
+    EXPECT_EQ(order, run_of('N') + "|" + run_of('M') + "|HQ");
+    EXPECT_EQ(contingency, run_of('X', 15) + "|" + run_of('S') + "|" + run_of('O'));
+    // What OK stored ends within each field; what it does not store keeps its bytes.
+    const sarge_order_record &stored = g->orders[0];
+    EXPECT_EQ(text_of(g->name) + "|" + text_of(stored.name) + "|" + text_of(stored.message) + "|" +
+                  text_of(stored.message_target),
+              run_of('G') + "|" + run_of('N') + "|" + run_of('M') + "|HQ");
+    EXPECT_EQ(std::string(stored.destination, 32), run_of('E', 32));
+    EXPECT_EQ(text_of(g->contingencies[0].next_order) + "|" + text_of(g->contingencies[0].trigger_string),
+              run_of('X', 15) + "|" + run_of('S'));
     const unit_entry *member = values<unit_entry>(g->members).at(0);
     EXPECT_EQ(text_of(member->name) + "|" + text_of(member->type_name), run_of('C') + "|" + run_of('D'));
 }
@@ -153,22 +149,14 @@ TEST_F(hostile_data_test, ground_dialogs_cut_unterminated_names_within_their_fie
 TEST_F(hostile_data_test, object_name_list_skips_empty_nodes_and_cuts_names) {
     unit_entry plain = test_host::unit(8, "Jeep3", "jeep"), hostile = unit(7, 'E', 'F');
     dlist_node *objects = entries<unit_entry>({&hostile, nullptr, &plain});
-    lines shown;
-    std::string edited;
+    std::string listed, edited;
     ui_driver d;
-    d.then("Dialog", [&](HWND dlg) {
-        shown = ui_list_items(dlg, IDC_ON_LIST);
-        ui_list_select_index(dlg, IDC_ON_LIST, 0);
-        press(dlg, IDC_ON_EDIT_NAME);
-    });
-    d.then("", [&](HWND dlg) {
-        edited = ui_text(dlg, IDC_EN_NAME);
-        press(dlg, IDOK);
-    });
-    d.then("Dialog", [](HWND dlg) { press(dlg, IDOK); });
+    d.then("Dialog", look(listed, {IDC_ON_LIST}, IDC_ON_EDIT_NAME, IDC_ON_LIST));
+    d.then("", look(edited, {IDC_EN_NAME}));
+    d.then("Dialog", look(ignored, {}));
     EXPECT_EQ(editor_window(REQUEST_OBJECT_NAMES, reinterpret_cast<uintptr_t>(objects), 0), 1);
     EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(shown, (lines{"7 : " + run_of('E') + "  (" + run_of('F') + ")", "8 : Jeep3  (jeep)"}));
+    EXPECT_EQ(listed, "7 : " + run_of('E') + "  (" + run_of('F') + ")/8 : Jeep3  (jeep)");
     EXPECT_EQ(edited, run_of('E'));
     EXPECT_EQ(text_of(values<unit_entry>(objects)[0]->name), run_of('E'));
 }
@@ -177,14 +165,18 @@ TEST_F(hostile_data_test, heli_dialogs_cut_unterminated_names_and_skip_empty_nod
     host.rally_points = {test_host::rally_point(5, "")};
     fill(host.rally_points[0].name, 'R');
     fill(host.rally_points[0].host_bytes, 'r');
+    host.markers = {run_of('L', 40), "WP1"};
+    host.existing_names = {};
     heli_group_record *g = host.heli.create_heli_group();
     cleanup.push_back([this, g] { host.heli.destroy_heli_group(g); });
     fill(g->name, 'H');
     g->rally_point_id = 5;
-    unit_entry member = unit(9, 'U', 'V'), spare = unit(10, 'S', 'T');
+    const unit_entry member = unit(9, 'U', 'V'), spare = unit(10, 'S', 'T');
     host.heli.append(g->members, block(member));
     dlist_node *available = entries<unit_entry>({&spare});
 
+    // A route with an empty node; its second waypoint holds orders whose
+    // entries fill their names, each list with an empty node of its own.
     waypoint_record *named = host.heli.create_waypoint(), *unnamed = host.heli.create_waypoint();
     fill(named->marker_name, 'W');
     dlist_node *route = host.heli.new_list();
@@ -192,9 +184,6 @@ TEST_F(hostile_data_test, heli_dialogs_cut_unterminated_names_and_skip_empty_nod
                               static_cast<const void *>(unnamed)})
         host.heli.append(route, value);
     cleanup.push_back([this, route] { host.heli.destroy_waypoints(route); });
-
-    // Orders whose entries fill their names, each list with an empty node;
-    // all but the patrol go with the waypoint.
     heli_order_record *deploy = host.heli.create_order(HELI_ORDER_DEPLOY);
     heli_order_record *pickup = host.heli.create_order(HELI_ORDER_PICKUP);
     heli_order_record *wait = host.heli.create_order(HELI_ORDER_WAIT);
@@ -205,70 +194,35 @@ TEST_F(hostile_data_test, heli_dialogs_cut_unterminated_names_and_skip_empty_nod
     cargo.z = 2;
     pickup_entry sarge;
     fill(sarge.name, 'K');  // all 25 bytes, the last before the untouchable page
-    for (const void *value : {static_cast<const void *>(block(cargo)), static_cast<const void *>(nullptr)})
-        host.heli.append(deploy->body.deploy, value);
-    for (const void *value : {static_cast<const void *>(block(sarge)), static_cast<const void *>(nullptr)})
-        host.heli.append(pickup->body.pickup, value);
+    for (dlist_node *list : {deploy->body.deploy, pickup->body.pickup, unnamed->orders}) {
+        const void *first = list == deploy->body.deploy ? static_cast<const void *>(block(cargo))
+                            : list == pickup->body.pickup ? static_cast<const void *>(block(sarge))
+                                                          : static_cast<const void *>(deploy);
+        host.heli.append(list, first);
+        host.heli.append(list, nullptr);
+    }
+    host.heli.append(unnamed->orders, pickup);
+    host.heli.append(unnamed->orders, wait);
     patrol_point *point = host.heli.create_patrol_point("x");
     fill(point->marker_name, 'Q');
     host.heli.append(patrol->body.patrol->points, point);
     wait->body.wait->mode = WAIT_FOR_OBJECT;
     fill(wait->body.wait->name, 'Z');
-    for (heli_order_record *o : {deploy, pickup, wait}) host.heli.append(unnamed->orders, o);
-    host.heli.append(unnamed->orders, nullptr);
-    host.markers = {run_of('L', 40), "WP1"};
-    host.existing_names = {};
 
-    std::string group_name, rally, deployed, picked, waited;
-    lines group_lines, route_lines, order_lines, marker_lines, deploy_lines, pickup_lines, patrol_lines;
+    std::string group, waypoints, waypoint, deployed, updated, picked, patrolled, waited;
     ui_driver d;
-    d.then("Edit Heli Group", [&](HWND dlg) {
-        group_name = ui_text(dlg, IDC_HG_NAME);
-        rally = ui_combo_selected(dlg, IDC_HG_RALLY_POINT);
-        group_lines = ui_list_items(dlg, IDC_HG_MEMBERS);
-        for (const std::string &line : ui_list_items(dlg, IDC_HG_AVAILABLE)) group_lines.push_back(line);
-        press(dlg, IDOK);
-    });
-    d.then("Edit Waypoints", [&](HWND dlg) {
-        route_lines = ui_list_items(dlg, IDC_WPS_LIST);
-        press(dlg, IDCANCEL);
-    });
-    d.then("Edit Waypoint", [&](HWND dlg) {
-        order_lines = ui_list_items(dlg, IDC_WP_ORDERS);
-        marker_lines = ui_combo_items(dlg, IDC_WP_MARKER);
-        press(dlg, IDCANCEL);
-    });
-    // The entry's name into the edits (a double-click), then Update with it.
-    d.then("Edit Deploy Order", [&](HWND dlg) {
-        deploy_lines = ui_list_items(dlg, IDC_DEPLOY_LIST);
-        ui_list_select_index(dlg, IDC_DEPLOY_LIST, 0);
-        ui_list_double_click(dlg, IDC_DEPLOY_LIST);
-    });
-    d.then("Edit Deploy Order", [&](HWND dlg) {
-        deployed = ui_text(dlg, IDC_DEPLOY_NAME);
-        ui_list_select_index(dlg, IDC_DEPLOY_LIST, 0);
-        press(dlg, IDC_DEPLOY_UPDATE);
-    });
+    d.then("Edit Heli Group", look(group, {IDC_HG_NAME, IDC_HG_RALLY_POINT, IDC_HG_MEMBERS, IDC_HG_AVAILABLE}));
+    d.then("Edit Waypoints", look(waypoints, {IDC_WPS_LIST}, IDCANCEL));
+    d.then("Edit Waypoint", look(waypoint, {IDC_WP_ORDERS, IDC_WP_MARKER}, IDCANCEL));
+    // The entry into the edits (a double-click), then Update with what they show.
+    d.then("Edit Deploy Order", look(deployed, {IDC_DEPLOY_LIST}, double_click, IDC_DEPLOY_LIST));
+    d.then("Edit Deploy Order", look(updated, {IDC_DEPLOY_NAME}, IDC_DEPLOY_UPDATE, IDC_DEPLOY_LIST));
     d.answer_box("Editor Question", IDYES);
-    d.then("Edit Deploy Order", [](HWND dlg) { press(dlg, IDOK); });
-    d.then("Edit Pickup Order", [&](HWND dlg) {
-        pickup_lines = ui_list_items(dlg, IDC_PICKUP_LIST);
-        ui_list_select_index(dlg, IDC_PICKUP_LIST, 0);
-        ui_list_double_click(dlg, IDC_PICKUP_LIST);
-    });
-    d.then("Edit Pickup Order", [&](HWND dlg) {
-        picked = ui_text(dlg, IDC_PICKUP_NAME);
-        press(dlg, IDOK);
-    });
-    d.then("Edit Patrol Order", [&](HWND dlg) {
-        patrol_lines = ui_list_items(dlg, IDC_PATROL_POINTS);
-        for (const std::string &line : ui_list_items(dlg, IDC_PATROL_MARKERS)) patrol_lines.push_back(line);
-        press(dlg, IDOK);
-    });
-    d.then("Edit Wait Order", [&](HWND dlg) {
-        waited = ui_text(dlg, IDC_WAIT_NAME);
-        press(dlg, IDOK);
-    });
+    d.then("Edit Deploy Order", look(ignored, {}));
+    d.then("Edit Pickup Order", look(picked, {IDC_PICKUP_LIST}, double_click, IDC_PICKUP_LIST));
+    d.then("Edit Pickup Order", look(picked, {IDC_PICKUP_LIST, IDC_PICKUP_NAME}));
+    d.then("Edit Patrol Order", look(patrolled, {IDC_PATROL_POINTS, IDC_PATROL_MARKERS}));
+    d.then("Edit Wait Order", look(waited, {IDC_WAIT_NAME}));
     d.answer_box("Editor Question", IDYES);
     HWND owner = host.main_window;
     EXPECT_EQ(edit_heli_group(owner, g, available), 1);
@@ -280,19 +234,16 @@ TEST_F(hostile_data_test, heli_dialogs_cut_unterminated_names_and_skip_empty_nod
     EXPECT_EQ(edit_wait_order(owner, wait->body.wait), 1);
     EXPECT_DRIVER_OK(d);
 
-    EXPECT_EQ(group_name, run_of('H'));
-    EXPECT_EQ(rally, run_of('R'));
-    EXPECT_EQ(group_lines, (lines{run_of('U'), run_of('S')}));
+    EXPECT_EQ(group, run_of('H') + "|" + run_of('R') + "|" + run_of('U') + "|" + run_of('S'));
     EXPECT_EQ(text_of(g->name), run_of('H'));
-    EXPECT_EQ(route_lines, (lines{run_of('W'), "Waypoint 1"}));
-    EXPECT_EQ(order_lines, (lines{"Deploy", "Pickup", "Wait"}));
-    EXPECT_EQ(marker_lines, (lines{"None Selected", run_of('L'), "WP1"}));
-    EXPECT_EQ(deploy_lines, lines{run_of('P') + "    1.0    2.0"});
-    EXPECT_EQ(deployed, run_of('P'));
+    EXPECT_EQ(waypoints, run_of('W') + "/Waypoint 1");
+    // The marker list's names as they would be stored; the unterminated marker is none of them.
+    EXPECT_EQ(waypoint, "Deploy/Pickup/Wait|None Selected");
+    EXPECT_EQ(deployed, run_of('P') + "    1.0    2.0");
+    EXPECT_EQ(updated, run_of('P'));
     EXPECT_EQ(text_of(values<deploy_entry>(deploy->body.deploy)[0]->name), run_of('P'));
-    EXPECT_EQ(pickup_lines, lines{run_of('K', 24)});
-    EXPECT_EQ(picked, run_of('K', 24));
-    EXPECT_EQ(patrol_lines, (lines{run_of('Q'), run_of('L'), "WP1"}));
+    EXPECT_EQ(picked, run_of('K', 24) + "|" + run_of('K', 24));
+    EXPECT_EQ(patrolled, run_of('Q') + "|" + run_of('L') + "/WP1");
     EXPECT_EQ(waited, run_of('Z'));
     EXPECT_EQ(text_of(wait->body.wait->name), run_of('Z'));
 }
@@ -308,8 +259,8 @@ TEST_F(hostile_data_test, air_dialogs_cut_unterminated_names_and_offer_no_name_t
     run.aircraft_count = 2;
     run.ingress = entries<bombing_waypoint>({&inbound});
     run.egress = waypoints({"WP2"});
-    const std::string long_type = run_of('A', 40), full_type = run_of('A', 32);
-    run.aircraft_types = names({"A-10", long_type.c_str(), full_type.c_str(), run_of('T').c_str()});
+    const std::string long_type = run_of('A', 40), full_type = run_of('A', 32), type = run_of('T');
+    run.aircraft_types = names({"A-10", long_type.c_str(), full_type.c_str(), type.c_str()});
     bombing_run_record *r = record(run);
     rally_point_record point{};
     fill(point.name, 'R');
@@ -318,39 +269,29 @@ TEST_F(hostile_data_test, air_dialogs_cut_unterminated_names_and_offer_no_name_t
     rally_point_record *p = record(point);
     host.markers = {run_of('L', 40), run_of('M'), "WP1"};
 
-    std::string run_name, type, point_name;
-    lines ingress, types, markers, locations;
+    std::string bombing, offered, ingress, rally, location;
     ui_driver d;
     d.then("Edit Bombing Run Details", [&](HWND dlg) {
-        run_name = ui_text(dlg, IDC_BR_NAME);
-        ingress = ui_list_items(dlg, IDC_BR_INGRESS);
-        types = ui_combo_items(dlg, IDC_BR_AIRCRAFT_TYPE);
-        type = ui_combo_selected(dlg, IDC_BR_AIRCRAFT_TYPE);
-        markers = ui_list_items(dlg, IDC_BR_MARKERS);
-        press(dlg, IDOK);
+        for (const std::string &t : ui_combo_items(dlg, IDC_BR_AIRCRAFT_TYPE)) offered += t + "/";
+        look(bombing, {IDC_BR_NAME, IDC_BR_AIRCRAFT_TYPE, IDC_BR_MARKERS}, 0)(dlg);
     });
-    d.then("Edit Rally Point Details", [&](HWND dlg) {
-        point_name = ui_text(dlg, IDC_RP_NAME);
-        locations = ui_list_items(dlg, IDC_RP_ARSP);
-        press(dlg, IDOK);
-    });
+    d.then("Edit Bombing Run Details", look(ingress, {IDC_BR_INGRESS}));
+    d.then("Edit Rally Point Details", look(rally, {IDC_RP_NAME}, 0));
+    d.then("Edit Rally Point Details", look(location, {IDC_RP_ARSP}));
     EXPECT_EQ(edit_bombing_run(r), 1);
     EXPECT_EQ(edit_rally_point(p), 1);
     EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(run_name, run_of('B'));
-    ASSERT_EQ(ingress.size(), 1u);
-    EXPECT_EQ(ingress[0].substr(0, 32), run_of('I') + " ");
-    EXPECT_EQ(std::strtof(ingress[0].c_str() + 32, nullptr), inbound.height);
-    ASSERT_EQ(locations.size(), 1u);
-    char *z = nullptr;
-    EXPECT_EQ(std::strtof(locations[0].c_str(), &z), far_off.x);
-    EXPECT_EQ(std::strtof(z, nullptr), far_off.z);
-    EXPECT_EQ(types, (lines{"A-10", run_of('T')}));
-    EXPECT_EQ(type, run_of('T'));
-    EXPECT_EQ(markers, (lines{run_of('M'), "WP1"}));
-    EXPECT_EQ(text_of(r->name) + "|" + text_of(r->aircraft_type), run_of('B') + "|" + run_of('T'));
-    EXPECT_EQ(point_name, run_of('R'));
+    // Types and markers too long for a 32-byte field are not offered.
+    EXPECT_EQ(offered, "A-10/" + type + "/");
+    EXPECT_EQ(bombing, run_of('B') + "|" + type + "|" + run_of('M') + "/WP1");
+    EXPECT_EQ(text_of(r->name) + "|" + text_of(r->aircraft_type), run_of('B') + "|" + type);
+    EXPECT_EQ(ingress.substr(0, 32), run_of('I') + " ");
+    EXPECT_EQ(std::strtof(ingress.c_str() + 32, nullptr), inbound.height);
+    EXPECT_EQ(rally, run_of('R'));
     EXPECT_EQ(text_of(p->name), run_of('R'));
+    char *z = nullptr;
+    EXPECT_EQ(std::strtof(location.c_str(), &z), far_off.x);
+    EXPECT_EQ(std::strtof(z, nullptr), far_off.z);
 }
 
 // A preset reference name that fills its 64 bytes, and an info line whose
@@ -363,10 +304,7 @@ TEST_F(hostile_data_test, reference_name_and_info_line_cut_what_the_host_overfil
     create_objects_record *o = record(objects);
     std::string selected;
     ui_driver d;
-    d.then("Create New Objects", [&](HWND dlg) {
-        selected = ui_text(dlg, IDC_CO_REF_OBJ);
-        press(dlg, IDOK);
-    });
+    d.then("Create New Objects", look(selected, {IDC_CO_REF_OBJ}));
     EXPECT_EQ(create_objects_dialog(o), 1);
     EXPECT_DRIVER_OK(d);
     EXPECT_EQ(selected, run_of('R', 63));
@@ -399,10 +337,9 @@ TEST_F(hostile_data_test, garbage_settings_leave_windows_and_defaults_alone) {
     auto window_rects = [&] {
         std::string out;
         for (HWND w : ui_thread_windows()) {
-            if (!is_editor_window(w) && w != host.main_window) continue;
             RECT r;
-            GetWindowRect(w, &r);
-            out += std::to_string(r.left) + "," + std::to_string(r.top) + " ";
+            if ((is_editor_window(w) || w == host.main_window) && GetWindowRect(w, &r))
+                out += std::to_string(r.left) + "," + std::to_string(r.top) + " ";
         }
         return out;
     };
@@ -410,9 +347,9 @@ TEST_F(hostile_data_test, garbage_settings_leave_windows_and_defaults_alone) {
     const create_objects_memory defaults = create_objects_remembered();
     editor_tidyup();
 
-    const std::string huge(10240, '9'), junk(10240, 'x');
-    std::string file = "\xEF\xBB\xBF garbage before any section\r\n[Main\r\nPosition=5,5\r\n[]\r\n=nothing\r\n\x01\x02\x03\r\n";
-    file += "[Main]\r\nPosition=" + huge + "\r\n[ToolBar]\r\nPosition=abc,def\r\n[Status]\r\nPosition=12\r\n";
+    const std::string junk(10240, 'x');
+    std::string file = "\xEF\xBB\xBF garbage before any section\r\n[Main\r\nPosition=5,5\r\n[]\r\n=nothing\r\n\x01\x02\r\n";
+    file += "[Main]\r\nPosition=" + std::string(10240, '9') + "\r\n[ToolBar]\r\nPosition=abc,def\r\n[Status]\r\nPosition=12\r\n";
     file += "[Query]\r\nType=" + junk + "\r\nRefObj=" + junk + "\r\nNumber=%s%n\r\nObjDist=nan\r\nCamDist=1e39\r\n";
     file += "AAlign=\r\nAACamRel==\r\nOrient=,\r\nOCamrel=\xFF\xFE\r\n[" + junk + "]\r\n" + junk + "\r\n";
     HANDLE out = CreateFileA(host.settings_path().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
@@ -423,12 +360,12 @@ TEST_F(hostile_data_test, garbage_settings_leave_windows_and_defaults_alone) {
 
     ASSERT_EQ(start_editor(), 1);
     EXPECT_EQ(window_rects(), clean);
-    const create_objects_memory &m = create_objects_remembered();
-    EXPECT_EQ(std::string(m.ref_obj), run_of('x', 63));
     // Everything but the name is as if the file said nothing.
+    const create_objects_memory &m = create_objects_remembered();
     create_objects_memory expected = defaults;
     std::memcpy(expected.ref_obj, m.ref_obj, sizeof m.ref_obj);
     EXPECT_EQ(std::memcmp(&m, &expected, sizeof m), 0);
+    EXPECT_EQ(std::string(m.ref_obj), run_of('x', 63));
     editor_tidyup();
     EXPECT_EQ(host.read_setting("Main", "Position"), "50,50");
     EXPECT_EQ(host.read_setting("Query", "CamDist"), "100.000000");

@@ -7,6 +7,7 @@
 
 #include "host/host_app.h"
 #include "host/ui_driver.h"
+#include "resources/ground_ids.h"
 #include "tools/monkey/monkey.h"
 
 #include <dlgs.h>  // after the platform types it uses
@@ -57,6 +58,17 @@ std::vector<HWND> visible_dialogs() {
     for (HWND window : ui_thread_windows())
         if (class_of(window) == "#32770" && !app().is_editor(window)) out.push_back(window);
     return out;
+}
+
+// The dialog's name for the figures: the three titled "Dialog", the two
+// titled "Sarge Order" and the untitled Edit Name told apart by a control.
+std::string kind_of(HWND dialog) {
+    const std::string title = ui_window_text(dialog);
+    if (title == "Dialog")
+        return GetDlgItem(dialog, IDC_GC_NAME) ? "Group Composition" : GetDlgItem(dialog, IDC_GO_ORDERS) ? "Group Orders"
+                                                                                                        : "Object names";
+    if (title == "Sarge Order" && GetDlgItem(dialog, IDC_CT_TRIGGER)) return "Sarge Order (contingency)";
+    return title.empty() ? "Edit Name" : title;
 }
 
 void note_seen(const std::vector<HWND> &windows) {
@@ -313,7 +325,7 @@ void CALLBACK on_tick(HWND, UINT, UINT_PTR, DWORD) {
     for (HWND window : windows) {
         if (designer.open.count(window)) continue;
         ++figures().dialogs_opened;
-        ++figures().opened_by_title[ui_window_text(window)];
+        ++figures().opened_by_title[kind_of(window)];
     }
     designer.open = now;
 
