@@ -337,6 +337,7 @@ int main(int argc, char **argv) {
 
     std::vector<scenario> scenarios = ground_scenarios();
     for (scenario &s : heli_scenarios()) scenarios.push_back(std::move(s));
+    for (scenario &s : air_scenarios()) scenarios.push_back(std::move(s));
     std::printf("%-26s %6s %10s %10s %6s %10s %10s %6s\n", "dialog", "N", "dll ms", "floor ms", "ratio",
                 "init dll", "init floor", "ratio");
     for (const scenario &s : scenarios) {
