@@ -23,6 +23,9 @@ std::string bytes_of(std::initializer_list<T> records) {
     return all;
 }
 
+// The close box of the window's caption.
+inline void close_box(HWND dlg) { PostMessageA(dlg, WM_CLOSE, 0, 0); }
+
 // Name and terminator over the allocator's fill (the host's bytes untouched), and the height.
 inline bombing_waypoint waypoint(const char *name, float height) {
     bombing_waypoint w;

@@ -75,7 +75,8 @@ TEST_F(bombing_run_test, a_designers_whole_edit_reaches_the_record_byte_by_byte)
     expected.aircraft_count = 8;
     expected.cancelled = 0;
     EXPECT_EQ(bytes_of({run}), bytes_of({expected}));
-    EXPECT_EQ(entries_of<bombing_waypoint>(run.ingress), bytes_of({waypoint("WP_b", 50), waypoint("WP_a", 75.5f), waypoint("LZ", 50)}));
+    EXPECT_EQ(entries_of<bombing_waypoint>(run.ingress),
+              bytes_of({waypoint("WP_b", 50), waypoint("WP_a", 75.5f), waypoint("LZ", 50)}));
     EXPECT_EQ(entries_of<bombing_waypoint>(run.egress), bytes_of({waypoint("LZ", 50), waypoint("WP_b", 50)}));
 }
 
@@ -103,7 +104,7 @@ TEST_F(bombing_run_test, only_ok_stores_the_numbers_each_by_the_lenient_rule) {
                                            for (int i = 0; i < 5; ++i) ui_set_text(dlg, ids[i], c.typed[i]);
                                            choosing(IDC_BR_AIRCRAFT_COUNT, "5", route(IDC_BR_EGRESS_ADD, 0, 0, c.marker))(dlg);
                                        },
-                                       [&](HWND dlg) { c.end ? ui_command(dlg, c.end) : (void)PostMessageA(dlg, WM_CLOSE, 0, 0); }}));
+                                       [&](HWND dlg) { c.end ? ui_command(dlg, c.end) : close_box(dlg); }}));
         expected.target_x = c.stored[0], expected.target_z = c.stored[1], expected.release_height = c.stored[2];
         expected.attack_time = c.stored[3], expected.attack_radius = c.stored[4];
         expected.cancelled = c.end != IDOK;
@@ -115,9 +116,9 @@ TEST_F(bombing_run_test, only_ok_stores_the_numbers_each_by_the_lenient_rule) {
 }
 
 // The stored type is searched from item 1 onward, item 0 last, by a prefix
-// without regard to case; names too long for the field are not offered.
+// without regard to case; a name too long for the field is not offered.
 TEST_F(bombing_run_test, aircraft_type_search_and_count_selection) {
-    const lines types = {"Harrier", "A-10B", "A-10"};
+    const lines types = {"Harrier", "A-10B", "A-10", std::string(32, 'T')};
     const struct {
         lines types;  // empty: a null list
         std::string stored;
@@ -126,14 +127,13 @@ TEST_F(bombing_run_test, aircraft_type_search_and_count_selection) {
     } cases[] = {
         {types, "A-10", 8, "A-10B,8", "A-10B"},  {types, "harr", 0, "Harrier,", "Harrier"},
         {types, "Zulu", 9, ",", "Zulu"},         {{}, "Zulu", 1, ",1", "Zulu"},
-        {{std::string(40, 'T')}, std::string(31, 'T'), 3, ",3", std::string(31, 'T')},
     };
     for (const auto &c : cases) {
         run.aircraft_types = c.types.empty() ? nullptr : names_of(c.types);
         std::strcpy(run.aircraft_type, c.stored.c_str());
         run.aircraft_count = c.count;
         EXPECT_EQ(1, edit({[&](HWND dlg) {
-            EXPECT_EQ(ui_combo_items(dlg, IDC_BR_AIRCRAFT_TYPE).size(), c.types.size() == 3 ? 3u : 0u);
+            EXPECT_EQ(ui_combo_items(dlg, IDC_BR_AIRCRAFT_TYPE).size(), c.types.empty() ? 0u : 3u);
             EXPECT_EQ(shown(dlg, {IDC_BR_AIRCRAFT_TYPE, IDC_BR_AIRCRAFT_COUNT}), c.shown);
             ui_command(dlg, IDOK);
         }}));

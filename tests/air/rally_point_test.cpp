@@ -59,7 +59,8 @@ TEST_F(rally_point_test, a_designers_whole_edit_reaches_the_record_byte_by_byte)
     expected.x = 250.5f;
     expected.cancelled = 0;
     EXPECT_EQ(bytes_of({point}), bytes_of({expected}));
-    EXPECT_EQ(entries_of<arsp_location>(point.arsp_locations), bytes_of<arsp_location>({{12.5f, 7, -3}, {106, 7, -5}, {106, 7, -5}}));
+    EXPECT_EQ(entries_of<arsp_location>(point.arsp_locations),
+              bytes_of<arsp_location>({{12.5f, 7, -3}, {106, 7, -5}, {106, 7, -5}}));
 }
 
 // Cancel and the close box only mark the record; added locations stay, their
@@ -70,10 +71,10 @@ TEST_F(rally_point_test, cancel_keeps_added_locations_summed_in_single_precision
     point.arsp_locations = list_of<arsp_location>({{1, 2, 3}});
     rally_point_record before = point;
     before.cancelled = 1;
-    for (bool close_box : {false, true}) {
+    for (bool close : {false, true}) {
         point.cancelled = 0;
         EXPECT_EQ(0, edit({typing({{IDC_RP_NAME, "changed"}}, press(IDC_RP_ADD)), [=](HWND dlg) {
-                               close_box ? (void)PostMessageA(dlg, WM_CLOSE, 0, 0) : ui_command(dlg, IDCANCEL);
+                               close ? close_box(dlg) : ui_command(dlg, IDCANCEL);
                            }}));
         EXPECT_EQ(bytes_of({point}), bytes_of({before}));
     }

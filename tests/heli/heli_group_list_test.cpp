@@ -10,8 +10,10 @@ protected:
     // Every group in the host's list (name, status, members), then the available units.
     std::string state() const {
         std::string out;
-        for (heli_group_record *g : values<heli_group_record>(groups))
-            out += std::string(g->name, strnlen(g->name, sizeof g->name)) + ":" + std::to_string(g->status) + ":" + ids(g->members) + " ";
+        for (heli_group_record *g : values<heli_group_record>(groups)) {
+            out += std::string(g->name, strnlen(g->name, sizeof g->name));
+            out += ":" + std::to_string(g->status) + ":" + ids(g->members) + " ";
+        }
         return out + "| " + ids(available);
     }
 };

@@ -6,15 +6,10 @@
 
 class waypoints_test : public heli_test {
 protected:
-    dlist_node *route = nullptr;
+    dlist_node *route = nullptr;  // a group's, destroyed with it
     void SetUp() override {
         heli_test::SetUp();
-        route = heli.new_list();
-    }
-    void TearDown() override {
-        ui_driver::close_all_dialogs();
-        heli.destroy_waypoints(route);
-        heli_test::TearDown();
+        route = add_group("Group0", {})->waypoints;
     }
 };
 
@@ -46,7 +41,7 @@ TEST_F(waypoints_test, new_waypoints_follow_their_predecessor_and_edits_replace_
     const std::vector<waypoint_record *> now = values<waypoint_record>(route);
     ASSERT_EQ(now.size(), 5u);
     EXPECT_TRUE(now[1] == w1 && now[2] != w2 && !live(w2) && !live(w3));
-    EXPECT_EQ(now[0]->carried_a + now[0]->height_level, 0xCAu + HEIGHT_LOW);
+    EXPECT_EQ(std::make_pair(now[0]->carried_a, now[0]->height_level), std::make_pair(0xCAu, uint32_t(HEIGHT_LOW)));
     EXPECT_EQ(now[2]->marker_name + settings_of(now[2]), "LZ_Alpha" + w2_settings);
     for (waypoint_record *inherited : {now[3], now[4]})
         EXPECT_TRUE(settings_of(inherited) == w2_settings && !inherited->marker_name[0] && inherited->orders);
@@ -89,7 +84,8 @@ TEST_F(waypoints_test, each_setting_comes_from_its_table_and_changes_are_written
             ui_set_text(dlg, IDC_WP_SPEED, t.text);
             EXPECT_FLOAT_EQ(w->transit_speed, t.kmh != 0 ? t.kmh * 0.277777f : 9.0f) << '"' << t.text << '"';
         }
-        choosing(IDC_WP_DAMAGE_LEVEL, "PMC", choosing(IDC_WP_FUEL_LOW, "Go Home", choosing(IDC_WP_MARKER, "None Selected", press(IDCANCEL))))(dlg);
+        choosing(IDC_WP_DAMAGE_LEVEL, "PMC",
+                 choosing(IDC_WP_FUEL_LOW, "Go Home", choosing(IDC_WP_MARKER, "None Selected", press(IDCANCEL))))(dlg);
     }}, open));
     EXPECT_EQ(offered, "None Selected/WP_North/WP_South/LZ_Alpha/|NOE/Low/Medium/High/|Bypass/Engage/|Bypass/Engage/|"
                        "Continue/Use ARSP/Go Home/|Continue/Use ARSP/Go Home/|Continue/Use Rally Point/Go Home/|PMC/NMC/|");

@@ -15,13 +15,7 @@ TEST_F(heli_order_test, waypoint_orders_are_new_records_or_confirmed_copies_in_t
     odd->kind = 7;  // no line, out of the list's reach
     for (const char *marker : {"WP_North", "LZ_Alpha"})
         host.heli.append(patrol->body.patrol->points, host.heli.create_patrol_point(marker));
-    // The patrol order, its body and its points with their addresses.
-    const auto patrol_bytes = [&] {
-        std::string all = bytes(patrol, 12) + bytes(patrol->body.patrol, 8);
-        for (patrol_point *point : values<patrol_point>(patrol->body.patrol->points)) all += bytes(&point, 4) + bytes(point, 32);
-        return all;
-    };
-    const std::string patrol_before = patrol_bytes();
+    const std::vector<patrol_point *> points = values<patrol_point>(patrol->body.patrol->points);
     waypoint_record waypoint{};
     waypoint.orders = host.build_list({dlist_value(patrol), dlist_value(wait), dlist_value(odd), dlist_value(engage)});
     const char *const point = "Edit Waypoint", *const chooser = "Select New Order Type";
@@ -59,7 +53,7 @@ TEST_F(heli_order_test, waypoint_orders_are_new_records_or_confirmed_copies_in_t
                            "Patrol/Wait/Deploy/Pickup"}));
     ASSERT_EQ(made.size(), 5u);
     EXPECT_TRUE(made[0] == patrol && made[1] != wait && made[2] == odd);
-    EXPECT_EQ(patrol_bytes(), patrol_before);
+    EXPECT_EQ(values<patrol_point>(patrol->body.patrol->points), points);
     EXPECT_EQ(std::make_pair(made[3]->kind, made[4]->kind), std::make_pair(1u, 2u));  // Deploy, Pickup
     EXPECT_EQ(made[1]->body.wait->mode, uint32_t(WAIT_UNTIL_TIME));  // the confirmed copy
     EXPECT_EQ(std::make_tuple(host.heli.creates, host.heli.copies, host.heli.destroys), std::make_tuple(7, 2, 4));

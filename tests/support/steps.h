@@ -4,7 +4,6 @@
 #pragma once
 
 #include <functional>
-#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -59,7 +58,7 @@ int drive(const std::vector<std::pair<std::string, step>> &steps, Open open) {
     return result;
 }
 template <class Open>
-int drive(const std::string &title, std::initializer_list<step> steps, Open open) {
+int drive(const std::string &title, const std::vector<step> &steps, Open open) {
     std::vector<std::pair<std::string, step>> all;
     for (const step &s : steps) all.emplace_back(title, s);
     return drive(all, open);
