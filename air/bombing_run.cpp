@@ -17,6 +17,7 @@
 #include "util/controls.h"
 #include "util/dialogs.h"
 #include "util/host_list.h"
+#include "util/line_batch.h"
 #include "util/host_memory.h"
 #include "util/modal.h"
 #include "util/text.h"
@@ -45,8 +46,7 @@ dlist *head_of(const route &r) { return edited->*r.head; }
 bool fits_field(const char *name) { return name && strnlen(name, 32) < 32; }
 
 void refill_route(HWND dialog, const route &r) {
-    HWND list = GetDlgItem(dialog, r.list);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, r.list));
     for (bombing_waypoint *waypoint : dlist_values<bombing_waypoint>(head_of(r))) {
         // A null value still gets its line, so that lines and waypoints keep
         // the same positions.
@@ -60,8 +60,9 @@ void refill_route(HWND dialog, const route &r) {
         // can hold (44 characters with "%.3f"), so no line is ever cut.
         char line[96];
         std::snprintf(line, sizeof line, "%10s %.3f", name, static_cast<double>(height));
-        SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line));
+        lines.add(line);
     }
+    lines.commit();
     SetDlgItemTextA(dialog, r.height, default_height_text);
 }
 
@@ -72,8 +73,10 @@ void fill_markers(HWND dialog) {
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
     held_list markers(host().host_marker_list);
     if (markers) {
+        line_batch lines(list);
         for (const char *name : dlist_values<const char>(markers.get()))
-            if (fits_field(name)) SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
+            if (fits_field(name)) lines.add(name);
+        lines.commit();
         SendMessageA(list, LB_SETCURSEL, 0, 0);
         if (!markers.release()) SendMessageA(list, LB_RESETCONTENT, 0, 0);
     }
@@ -83,8 +86,10 @@ void fill_markers(HWND dialog) {
 void fill_aircraft_types(HWND dialog) {
     if (!edited->aircraft_types) return;
     HWND combo = GetDlgItem(dialog, IDC_BR_AIRCRAFT_TYPE);
+    line_batch lines(combo);
     for (const char *name : dlist_values<const char>(edited->aircraft_types))
-        if (fits_field(name)) SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
+        if (fits_field(name)) lines.add(name);
+    lines.commit();
     // The platform's prefix search, case-insensitive, from item 1 onward and
     // item 0 last: a stored type that begins another type's name may pick
     // that one.

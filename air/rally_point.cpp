@@ -12,6 +12,7 @@
 #include "editor/editor.h"
 #include "resources/air_ids.h"
 #include "util/controls.h"
+#include "util/line_batch.h"
 #include "util/dialogs.h"
 #include "util/host_memory.h"
 #include "util/modal.h"
@@ -35,8 +36,7 @@ arsp_location *selected_location(HWND dialog) {
 }
 
 void refill_locations(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_RP_ARSP);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, IDC_RP_ARSP));
     for (arsp_location *location : dlist_values<arsp_location>(edited->arsp_locations)) {
         // A null value still gets its line, so that lines and locations keep
         // the same positions.
@@ -46,7 +46,7 @@ void refill_locations(HWND dialog) {
         if (location)
             std::snprintf(line, sizeof line, "%6.1f %6.1f", static_cast<double>(location->x),
                           static_cast<double>(location->z));
-        SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line));
+        lines.add(line);
     }
 }
 

@@ -67,6 +67,7 @@ struct scenario {
 
 std::vector<scenario> ground_scenarios();
 std::vector<scenario> heli_scenarios();
+std::vector<scenario> air_scenarios();
 
 // Runs `act` (a click that opens the measured dialog from inside its parent)
 // as soon as the parent's modal loop runs, timed as the measured dialog's

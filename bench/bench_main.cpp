@@ -276,6 +276,38 @@ double median(std::vector<double> values) {
 struct figures {
     std::vector<double> total, init;
 };
+
+long file_size(const char *path) {
+    WIN32_FILE_ATTRIBUTE_DATA data;
+    return GetFileAttributesExA(path, GetFileExInfoStandard, &data) ? static_cast<long>(data.nFileSizeLow) : -1;
+}
+
+// editor_init followed by editor_tidyup (no settings file), beside a bare DLL
+// that only creates and destroys the same two modeless windows.
+void measure_lifecycle(int runs) {
+    HMODULE bare = LoadLibraryA("bench_bare.dll");
+    auto bare_init = reinterpret_cast<int (*)(HWND)>(reinterpret_cast<void *>(GetProcAddress(bare, "bare_init")));
+    auto bare_tidyup = reinterpret_cast<int (*)()>(reinterpret_cast<void *>(GetProcAddress(bare, "bare_tidyup")));
+    if (!bare_init || !bare_tidyup) fail("bench_bare.dll cannot be loaded");
+    bench_host &h = bench();
+    std::vector<double> editor, floor;
+    for (int r = 0; r < runs; ++r) {
+        double start = now_ms();
+        if (!h.editor.init(bench_setup())) fail("editor_init failed");
+        h.editor.tidyup();
+        editor.push_back(now_ms() - start);
+        start = now_ms();
+        if (!bare_init(h.main_window)) fail("the bare DLL's windows could not be made");
+        bare_tidyup();
+        floor.push_back(now_ms() - start);
+    }
+    std::printf("%-26s %6s %10.2f %10.2f %6.2f\n", "editor_init + tidyup", "", median(editor), median(floor),
+                median(editor) / median(floor));
+    std::printf("%-26s %6s %10ld %10ld %6.2f   (bytes)\n", "DLL size", "", file_size("editor.dll"),
+                file_size("bench_bare.dll"),
+                static_cast<double>(file_size("editor.dll")) / static_cast<double>(file_size("bench_bare.dll")));
+    FreeLibrary(bare);
+}
 }  // namespace
 
 bench_host &bench() {
@@ -337,6 +369,7 @@ int main(int argc, char **argv) {
 
     std::vector<scenario> scenarios = ground_scenarios();
     for (scenario &s : heli_scenarios()) scenarios.push_back(std::move(s));
+    for (scenario &s : air_scenarios()) scenarios.push_back(std::move(s));
     std::printf("%-26s %6s %10s %10s %6s %10s %10s %6s\n", "dialog", "N", "dll ms", "floor ms", "ratio",
                 "init dll", "init floor", "ratio");
     for (const scenario &s : scenarios) {
@@ -385,6 +418,7 @@ int main(int argc, char **argv) {
     }
     h.editor.tidyup();
     check_host(scenario{"tidy-up", 0, "", {}, {}, {}, {}, {}});
+    measure_lifecycle(runs);
     h.editor.unload();
     return 0;
 }

@@ -15,6 +15,7 @@
 #include "util/dialogs.h"
 #include "util/host_list.h"
 #include "util/host_memory.h"
+#include "util/line_batch.h"
 #include "util/modal.h"
 #include "util/scope.h"
 
@@ -45,10 +46,10 @@ std::unordered_set<int32_t> taken_unit_ids() {
     return ids;
 }
 
-void add_unit_line(HWND list, const unit_entry &unit) {
+void add_unit_line(line_batch &lines, const unit_entry &unit) {
     char line[UNIT_LINE_SIZE];
     format_pair_line(line, unit.name, unit.type_name);
-    list_add_line(list, line, static_cast<LPARAM>(unit.id));
+    lines.add(line, static_cast<LPARAM>(unit.id));
 }
 
 bool fill_available_units(HWND dialog) {
@@ -57,9 +58,12 @@ bool fill_available_units(HWND dialog) {
     // Both kinds of list go back through the unit list operation.
     held_list units(group_list ? host().host_unit_list : host().host_unit_list_standalone, host().host_unit_list);
     if (!units) return false;
-    const std::unordered_set<int32_t> taken = taken_unit_ids();
-    for (unit_entry *unit : dlist_values<unit_entry>(units.get())) {
-        if (unit && !taken.count(unit->id)) add_unit_line(list, *unit);
+    {
+        line_batch lines(list);
+        const std::unordered_set<int32_t> taken = taken_unit_ids();
+        for (unit_entry *unit : dlist_values<unit_entry>(units.get())) {
+            if (unit && !taken.count(unit->id)) add_unit_line(lines, *unit);
+        }
     }
     if (!units.release()) {
         SendMessageA(list, LB_RESETCONTENT, 0, 0);
@@ -69,15 +73,11 @@ bool fill_available_units(HWND dialog) {
 }
 
 void fill_group_members(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_GC_MEMBERS);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, IDC_GC_MEMBERS));
+    for (unit_entry *member : dlist_values<unit_entry>(working.members))
+        if (member) add_unit_line(lines, *member);
     member_lines = 0;
-    for (unit_entry *member : dlist_values<unit_entry>(working.members)) {
-        if (!member) continue;
-        char line[UNIT_LINE_SIZE];
-        format_pair_line(line, member->name, member->type_name);
-        if (list_add_line(list, line, static_cast<LPARAM>(member->id)) >= 0) ++member_lines;
-    }
+    for (LRESULT index : lines.commit()) member_lines += index >= 0;
 }
 
 void show_appearance(HWND dialog) {

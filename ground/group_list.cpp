@@ -15,6 +15,7 @@
 #include "util/dialogs.h"
 #include "util/dlist.h"
 #include "util/host_memory.h"
+#include "util/line_batch.h"
 #include "util/modal.h"
 #include "util/text.h"
 
@@ -23,13 +24,12 @@ module_flag module;
 dlist *group_list = nullptr;
 
 void fill_group_list(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_GL_GROUPS);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, IDC_GL_GROUPS));
     for (group_record *group : dlist_values<group_record>(group_list)) {
         if (!group || group->status == GROUP_STATUS_REMOVED) continue;
         char name[32];
         copy_field(name, group->name);
-        list_add_line(list, name, reinterpret_cast<LPARAM>(group));
+        lines.add(name, reinterpret_cast<LPARAM>(group));
     }
 }
 

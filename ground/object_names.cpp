@@ -11,6 +11,7 @@
 #include "util/controls.h"
 #include "util/dialogs.h"
 #include "util/dlist.h"
+#include "util/line_batch.h"
 #include "util/modal.h"
 #include "util/text.h"
 
@@ -68,14 +69,13 @@ dlist_node *listed = nullptr;
 // no line: there is nothing to show or rename. The texts are read at most 31
 // characters each, so the line always fits its buffer.
 void fill_object_names(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_ON_LIST);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, IDC_ON_LIST));
     for (unit_entry *entry : dlist_values<unit_entry>(listed)) {
         if (!entry) continue;
         char line[96];
         std::snprintf(line, sizeof line, "%d : %.31s  (%.31s)", static_cast<int>(entry->id), entry->name,
                       entry->type_name);
-        list_add_line(list, line, static_cast<LPARAM>(entry->id));
+        lines.add(line, static_cast<LPARAM>(entry->id));
     }
 }
 

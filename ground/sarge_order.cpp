@@ -10,6 +10,7 @@
 #include "util/controls.h"
 #include "util/dialogs.h"
 #include "util/host_list.h"
+#include "util/line_batch.h"
 #include "util/modal.h"
 #include "util/text.h"
 
@@ -26,18 +27,19 @@ int fill_names(HWND combo, host_list_fn list_op, bool with_none) {
     SendMessageA(combo, CB_RESETCONTENT, 0, 0);
     held_list names(list_op);
     if (!names) return 0;
-    for (dlist_node *node : dlist_nodes(names.get())) {
-        const char *name = reinterpret_cast<const char *>(node->value);
-        if (!name) continue;
-        char entry[32];
-        copy_text(entry, name);
-        combo_add_line(combo, entry, static_cast<LPARAM>(node->value));
-    }
-    if (with_none) {
-        LRESULT index = combo_add_line(combo, none_entry, 0);
-        SendMessageA(combo, CB_SETCURSEL, index, 0);
-    } else {
-        SendMessageA(combo, CB_SETCURSEL, 0, 0);
+    {
+        line_batch lines(combo);
+        for (dlist_node *node : dlist_nodes(names.get())) {
+            const char *name = reinterpret_cast<const char *>(node->value);
+            if (!name) continue;
+            char entry[32];
+            copy_text(entry, name);
+            lines.add(entry, static_cast<LPARAM>(node->value));
+        }
+        if (with_none) lines.add(none_entry, 0);
+        // "NONE" is the last line when there is one; else the first is selected.
+        const std::vector<LRESULT> &indices = lines.commit();
+        SendMessageA(combo, CB_SETCURSEL, with_none ? indices.back() : 0, 0);
     }
     if (!names.release()) {
         SendMessageA(combo, CB_RESETCONTENT, 0, 0);

@@ -6,6 +6,7 @@
 // Cancel are destroyed. The name and rally point are written on OK only.
 #include "heli/heli_group.h"
 
+#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
@@ -18,6 +19,7 @@
 #include "util/dialogs.h"
 #include "util/host_list.h"
 #include "util/host_memory.h"
+#include "util/line_batch.h"
 #include "util/modal.h"
 #include "util/scope.h"
 #include "util/text.h"
@@ -30,13 +32,12 @@ dlist *available = nullptr;  // dlist of unit_entry *: units that may join
 // A line per unit: its name, with its id as item data (the key by which the
 // entry is found again, whatever the line's position).
 void fill_units(HWND dialog, int box, const dlist *units) {
-    HWND list = GetDlgItem(dialog, box);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, box));
     for (unit_entry *unit : dlist_values<unit_entry>(units)) {
         if (!unit) continue;
         char name[sizeof unit->name];
         copy_field(name, unit->name);
-        list_add_line(list, name, static_cast<LPARAM>(unit->id));
+        lines.add(name, static_cast<LPARAM>(unit->id));
     }
 }
 
@@ -49,17 +50,19 @@ void fill_unit_lists(HWND dialog) {
 // id); none selected when the list cannot be had or holds no such id.
 void fill_rally_points(HWND dialog) {
     HWND combo = GetDlgItem(dialog, IDC_HG_RALLY_POINT);
-    SendMessageA(combo, CB_RESETCONTENT, 0, 0);
+    line_batch lines(combo);
     held_list rally_points(host().host_rally_point_list);
-    LRESULT selected = CB_ERR;
+    size_t selected = SIZE_MAX;  // in the order added
     for (rally_point_entry *point : dlist_values<rally_point_entry>(rally_points.get())) {
         if (!point) continue;
         char name[sizeof point->name];
         copy_field(name, point->name);
-        LRESULT index = combo_add_line(combo, name, static_cast<LPARAM>(point->id));
-        if (index >= 0 && point->id == edited->rally_point_id) selected = index;
+        if (point->id == edited->rally_point_id) selected = lines.size();
+        lines.add(name, static_cast<LPARAM>(point->id));
     }
-    if (selected >= 0) SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(selected), 0);
+    const std::vector<LRESULT> &indices = lines.commit();
+    if (selected < indices.size() && indices[selected] >= 0)
+        SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(indices[selected]), 0);
 }
 
 void load_dialog(HWND dialog) {

@@ -19,6 +19,7 @@
 #include "util/controls.h"
 #include "util/dialogs.h"
 #include "util/host_memory.h"
+#include "util/line_batch.h"
 #include "util/modal.h"
 #include "util/scope.h"
 #include "util/text.h"
@@ -32,13 +33,12 @@ void destroy_group(heli_group_record *group) { host().host_heli_group_destroy(&g
 
 void refresh(HWND dialog) {
     if (groups) {
-        HWND list = GetDlgItem(dialog, IDC_LHG_GROUPS);
-        SendMessageA(list, LB_RESETCONTENT, 0, 0);
+        line_batch lines(GetDlgItem(dialog, IDC_LHG_GROUPS));
         for (heli_group_record *group : dlist_values<heli_group_record>(groups)) {
             if (!group || group->status == HELI_GROUP_STATUS_REMOVED) continue;
             char name[sizeof group->name];
             copy_field(name, group->name);
-            list_add_line(list, name, reinterpret_cast<LPARAM>(group));
+            lines.add(name, reinterpret_cast<LPARAM>(group));
         }
     }
     centre_dialog(dialog);

@@ -19,6 +19,7 @@
 #include "util/controls.h"
 #include "util/dialogs.h"
 #include "util/host_list.h"
+#include "util/line_batch.h"
 #include "util/modal.h"
 #include "util/numbers.h"
 #include "util/scope.h"
@@ -208,19 +209,21 @@ bool is_marker(const char (&field)[32], const char *name) {
 
 void fill_markers(HWND dialog) {
     HWND combo = GetDlgItem(dialog, IDC_WP_MARKER);
-    SendMessageA(combo, CB_RESETCONTENT, 0, 0);
-    LRESULT selected = combo_add_string_id(combo, IDS_NONE_SELECTED);
-    if (selected >= 0) SendMessageA(combo, CB_SETITEMDATA, static_cast<WPARAM>(selected), 0);
+    line_batch lines(combo);
+    char none[32];
+    load_string(IDS_NONE_SELECTED, none, sizeof none);
+    lines.add(none, 0);
+    size_t selected = 0;  // in the order added
     for (dlist_node *node : dlist_nodes(markers)) {
         const char *name = reinterpret_cast<const char *>(node->value);
         if (!name) continue;
         // Shown as it would be stored.
         char line[sizeof edited->marker_name];
         copy_text(line, name);
-        LRESULT index = combo_add_line(combo, line, static_cast<LPARAM>(node->value));
-        if (index >= 0 && is_marker(edited->marker_name, name)) selected = index;
+        if (is_marker(edited->marker_name, name)) selected = lines.size();
+        lines.add(line, static_cast<LPARAM>(node->value));
     }
-    SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(selected), 0);
+    SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(lines.commit()[selected]), 0);
 }
 
 // "None Selected" (no name behind it) leaves the stored name as it was.
@@ -290,15 +293,14 @@ int waypoint_dialogs_start() { return route_module.start() & waypoint_module.sta
 int waypoint_dialogs_tidyup() { return route_module.tidyup() & waypoint_module.tidyup(); }
 
 void fill_waypoint_list(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_WPS_LIST);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, IDC_WPS_LIST));
     int unnamed = 1;
     for (waypoint_record *waypoint : dlist_values<waypoint_record>(route)) {
         if (!waypoint) continue;
         char line[sizeof waypoint->marker_name];
         copy_field(line, waypoint->marker_name);
         if (!line[0]) std::snprintf(line, sizeof line, "Waypoint %d", unnamed++);
-        list_add_line(list, line, reinterpret_cast<LPARAM>(waypoint));
+        lines.add(line, reinterpret_cast<LPARAM>(waypoint));
     }
 }
 

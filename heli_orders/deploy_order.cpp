@@ -10,6 +10,7 @@
 #include "heli_orders/order_dialogs.h"
 #include "resources/heli_order_ids.h"
 #include "util/controls.h"
+#include "util/line_batch.h"
 #include "util/dialogs.h"
 #include "util/host_memory.h"
 #include "util/modal.h"
@@ -22,8 +23,7 @@ dlist *entries = nullptr;  // deploy_entry *
 // One line per entry, "name x z"; the line carries its entry. No line is
 // selected afterwards. Centred and shown again, even if the designer moved it.
 void refresh(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_DEPLOY_LIST);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, IDC_DEPLOY_LIST));
     for (deploy_entry *entry : dlist_values<deploy_entry>(entries)) {
         if (!entry) continue;
         char name[32];
@@ -31,8 +31,9 @@ void refresh(HWND dialog) {
         char line[160];
         std::snprintf(line, sizeof line, "%s %6.1f %6.1f", name, static_cast<double>(entry->x),
                       static_cast<double>(entry->z));
-        list_add_line(list, line, reinterpret_cast<LPARAM>(entry));
+        lines.add(line, reinterpret_cast<LPARAM>(entry));
     }
+    lines.commit();
     centre_dialog(dialog);
     ShowWindow(dialog, SW_SHOWNORMAL);
 }

@@ -10,6 +10,7 @@
 #include "resources/heli_order_ids.h"
 #include "resources/string_ids.h"
 #include "util/controls.h"
+#include "util/line_batch.h"
 #include "util/dialogs.h"
 #include "util/host_list.h"
 #include "util/modal.h"
@@ -38,24 +39,24 @@ void refresh(HWND dialog) {
     }
     SendMessageA(cycles, CB_SETCURSEL, edited->cycles, 0);
 
-    HWND marker_lines = GetDlgItem(dialog, IDC_PATROL_MARKERS);
-    SendMessageA(marker_lines, LB_RESETCONTENT, 0, 0);
+    line_batch marker_lines(GetDlgItem(dialog, IDC_PATROL_MARKERS));
     for (dlist_node *node : dlist_nodes(markers)) {
         const char *name = reinterpret_cast<const char *>(node->value);
         if (!name) continue;
         char line[32];
         copy_text(line, name);
-        list_add_line(marker_lines, line, static_cast<LPARAM>(node->value));
+        marker_lines.add(line, static_cast<LPARAM>(node->value));
     }
+    marker_lines.commit();
 
-    HWND point_lines = GetDlgItem(dialog, IDC_PATROL_POINTS);
-    SendMessageA(point_lines, LB_RESETCONTENT, 0, 0);
+    line_batch point_lines(GetDlgItem(dialog, IDC_PATROL_POINTS));
     for (patrol_point *point : dlist_values<patrol_point>(edited->points)) {
         if (!point) continue;
         char line[32];
         copy_field(line, point->marker_name);
-        list_add_line(point_lines, line, reinterpret_cast<LPARAM>(point));
+        point_lines.add(line, reinterpret_cast<LPARAM>(point));
     }
+    point_lines.commit();
     centre_dialog(dialog);
     ShowWindow(dialog, SW_SHOWNORMAL);
 }

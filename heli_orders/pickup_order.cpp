@@ -9,6 +9,7 @@
 #include "heli_orders/order_dialogs.h"
 #include "resources/heli_order_ids.h"
 #include "util/controls.h"
+#include "util/line_batch.h"
 #include "util/dialogs.h"
 #include "util/host_memory.h"
 #include "util/modal.h"
@@ -23,14 +24,14 @@ using entry_name = char[sizeof(pickup_entry::name)];
 // One line per entry, its name; the line carries its entry. No line is
 // selected afterwards. Centred and shown again, even if the designer moved it.
 void refresh(HWND dialog) {
-    HWND list = GetDlgItem(dialog, IDC_PICKUP_LIST);
-    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    line_batch lines(GetDlgItem(dialog, IDC_PICKUP_LIST));
     for (pickup_entry *entry : dlist_values<pickup_entry>(entries)) {
         if (!entry) continue;
         entry_name name;
         copy_field(name, entry->name);
-        list_add_line(list, name, reinterpret_cast<LPARAM>(entry));
+        lines.add(name, reinterpret_cast<LPARAM>(entry));
     }
+    lines.commit();
     centre_dialog(dialog);
     ShowWindow(dialog, SW_SHOWNORMAL);
 }

@@ -13,6 +13,7 @@
 #include "util/controls.h"
 #include "util/dialogs.h"
 #include "util/dlist.h"
+#include "util/line_batch.h"
 #include "util/modal.h"
 #include "util/numbers.h"
 #include "util/settings.h"
@@ -310,11 +311,10 @@ int fill_reference_list(HWND dialog, HWND combo) {
         dlist *list = nullptr;
         host_typed_list_fn reference_list = host().host_reference_list;
         if (reference_list && reference_list(static_cast<int>(type), &list, HOST_LIST_ACQUIRE)) {
-            for (const char *name : dlist_values<const char>(list)) {
-                if (!name) continue;
-                SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
-                ++added;
-            }
+            line_batch names(combo);
+            for (const char *name : dlist_values<const char>(list))
+                if (name) names.add(name);
+            for (LRESULT index : names.commit()) added += index >= 0;
             if (reference_list(static_cast<int>(type), &list, HOST_LIST_RELEASE) && added > 0) return 1;
         }
     }

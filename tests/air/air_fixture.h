@@ -1,6 +1,7 @@
 // Air support tests: a started editor, routes and ARSP lists in host memory
 // (freed with their entries at the end of each test, so an entry the editor
-// allocated with another size shows up), entries compared as raw bytes.
+// allocated with another size shows up), records and entries compared as
+// raw bytes.
 #pragma once
 
 #include <cstring>
@@ -9,14 +10,21 @@
 
 #include "editor/editor.h"
 #include "resources/air_ids.h"
-#include "tests/support/test_host.h"
+#include "tests/support/shown.h"
+#include "tests/support/steps.h"
+#include "util/dlist.h"
 
-using names = std::vector<std::string>;
+using lines = std::vector<std::string>;
 
 template <class T>
-std::string bytes_of(const T &record) {
-    return std::string(reinterpret_cast<const char *>(&record), sizeof record);
+std::string bytes_of(std::initializer_list<T> records) {
+    std::string all;
+    for (const T &r : records) all.append(reinterpret_cast<const char *>(&r), sizeof r);
+    return all;
 }
+
+// The close box of the window's caption.
+inline void close_box(HWND dlg) { PostMessageA(dlg, WM_CLOSE, 0, 0); }
 
 // Name and terminator over the allocator's fill (the host's bytes untouched), and the height.
 inline bombing_waypoint waypoint(const char *name, float height) {
@@ -38,8 +46,8 @@ protected:
     void TearDown() override {
         ui_driver::close_all_dialogs();
         for (auto &list : lists) {
-            for (dlist_node *n = list.first->next; list.second && n != list.first; n = n->next)
-                host.memory.free(reinterpret_cast<void *>(n->value), list.second);
+            for (void *entry : dlist_values<void>(list.first))
+                if (list.second) host.memory.free(entry, list.second);
             host.free_list(list.first);
         }
         editor_test::TearDown();
@@ -47,27 +55,27 @@ protected:
     template <class T>
     dlist_node *list_of(std::initializer_list<T> entries) {
         std::vector<uintptr_t> values;
-        for (const T &e : entries) values.push_back(reinterpret_cast<uintptr_t>(std::memcpy(host.memory.alloc(sizeof e), &e, sizeof e)));
+        for (const T &e : entries) values.push_back(dlist_value(std::memcpy(host.memory.alloc(sizeof e), &e, sizeof e)));
         lists.push_back({host.build_list(values), sizeof(T)});
         return lists.back().first;
     }
-    dlist_node *names_of(const names &texts) {
+    dlist_node *names_of(const lines &texts) {
         std::vector<uintptr_t> values;
-        for (const std::string &t : texts) values.push_back(reinterpret_cast<uintptr_t>(host.host_text(t)));
+        for (const std::string &t : texts) values.push_back(dlist_value(host.host_text(t)));
         lists.push_back({host.build_list(values), 0});
         return lists.back().first;
     }
     template <class T>
-    static names entries_of(const dlist_node *list) {
-        names out;
-        for (dlist_node *n = list->next; n != list; n = n->next) out.push_back(bytes_of(*reinterpret_cast<T *>(n->value)));
-        return out;
+    static std::string entries_of(const dlist_node *list) {
+        std::string all;
+        for (T *entry : dlist_values<T>(list)) all += bytes_of({*entry});
+        return all;
     }
-    // Each step first makes the host's allocator grant `blocks` more (-1: all).
-    ui_driver::action failing(int blocks, ui_driver::action act) {
-        return [=](HWND dlg) {
+    // First makes the host's allocator grant `blocks` more (-1: all).
+    step failing(int blocks, step next) {
+        return [this, blocks, next](HWND dlg) {
             host.memory.fail_after = blocks;
-            act(dlg);
+            next(dlg);
         };
     }
     // No dialog and no mark for a null record, nor while the module or the editor is stopped.
@@ -81,14 +89,5 @@ protected:
         editor_tidyup();
         EXPECT_EQ(open(&record), 0);
         EXPECT_EQ(record.cancelled, 7u);
-    }
-    // Runs `open` while `steps` act in turn on the window titled `title`.
-    template <class Open>
-    static int drive(const char *title, std::initializer_list<ui_driver::action> steps, Open open) {
-        ui_driver d;
-        for (const ui_driver::action &step : steps) d.then(title, step);
-        const int result = open();
-        EXPECT_DRIVER_OK(d);
-        return result;
     }
 };

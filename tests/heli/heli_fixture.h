@@ -9,12 +9,11 @@
 
 #include "editor/editor.h"
 #include "resources/heli_ids.h"
-#include "tests/support/test_host.h"
+#include "tests/support/shown.h"
+#include "tests/support/steps.h"
+#include "util/dlist.h"
 
 using lines = std::vector<std::string>;
-
-inline void press_ok(HWND dialog) { ui_command(dialog, IDOK); }
-inline void press_cancel(HWND dialog) { ui_command(dialog, IDCANCEL); }
 
 class heli_test : public editor_test {
 protected:
@@ -32,23 +31,19 @@ protected:
     }
     void TearDown() override {
         ui_driver::close_all_dialogs();
-        for (void *group : values(groups)) heli.destroy_heli_group(static_cast<heli_group_record *>(group));
+        for (heli_group_record *group : values<heli_group_record>(groups)) heli.destroy_heli_group(group);
         heli.free_list(groups);
         heli.free_units(available);
         editor_test::TearDown();
     }
-
     dlist_node *unit_list(const std::vector<int> &ids) {
         dlist_node *list = heli.new_list();
         for (int id : ids) {
             unit_entry u = test_host::unit(id, "U" + std::to_string(id), "heli");
-            auto *entry = static_cast<unit_entry *>(host.memory.alloc(sizeof u));
-            *entry = u;
-            heli.append(list, entry);
+            heli.append(list, std::memcpy(host.memory.alloc(sizeof u), &u, sizeof u));
         }
         return list;
     }
-
     heli_group_record *add_group(const char *name, const std::vector<int> &member_ids, uint32_t status = 0) {
         heli_group_record *g = heli.create_heli_group();
         std::strncpy(g->name, name, sizeof g->name - 1);
@@ -74,19 +69,19 @@ protected:
         return w;
     }
 
-    static std::vector<void *> values(const dlist_node *list) {
-        std::vector<void *> out;
-        if (list)
-            for (dlist_node *n = list->next; n != list; n = n->next) out.push_back(reinterpret_cast<void *>(n->value));
+    template <class T = void>
+    static std::vector<T *> values(const dlist_node *list) {
+        std::vector<T *> out;
+        for (T *value : dlist_values<T>(list)) out.push_back(value);
         return out;
     }
-    static std::vector<int32_t> ids(const dlist_node *units) {
-        std::vector<int32_t> out;
-        for (void *u : values(units)) out.push_back(static_cast<unit_entry *>(u)->id);
+    // The unit ids of a list, "1,2,3".
+    static std::string ids(const dlist_node *units) {
+        std::string out;
+        for (unit_entry *u : dlist_values<unit_entry>(units)) out += (out.empty() ? "" : ",") + std::to_string(u->id);
         return out;
     }
     bool live(const void *record) const { return host.heli.live.count(record) != 0; }
-    uintptr_t arg(const void *p) const { return reinterpret_cast<uintptr_t>(p); }
 };
 
 // The ten setting words of a waypoint, as bytes.

@@ -1,10 +1,7 @@
-// The rules every order dialog shares: the two number rules, the duplicate
-// and existence boxes, and which records edit_heli_order refuses.
-#include <cmath>
-#include <string>
+// The two number rules the order dialogs share; each dialog's tests show
+// which rule its fields follow.
+#include <gtest/gtest.h>
 
-#include "heli_orders/heli_order.h"
-#include "tests/support/test_host.h"
 #include "util/numbers.h"
 
 TEST(order_numbers, strict_takes_the_number_alone_lenient_its_leading_number) {
@@ -29,36 +26,4 @@ TEST(order_numbers, strict_takes_the_number_alone_lenient_its_leading_number) {
         EXPECT_EQ(strict, c.strict ? c.value : -7.0f) << c.text;
         EXPECT_EQ(lenient, c.lenient ? c.value : -7.0f) << c.text;
     }
-}
-
-class order_rules_test : public editor_test {
-protected:
-    void SetUp() override {
-        editor_test::SetUp();
-        ASSERT_EQ(start_editor(), 1);
-    }
-};
-
-TEST_F(order_rules_test, name_boxes_name_the_object_and_only_ask_about_unknown_names) {
-    host.existing_names = {"Alpha"};
-    std::string asked, listed;
-    ui_driver d;
-    d.answer_box("Editor Question", IDYES, &asked);
-    d.answer_box("Editor Question", IDNO);
-    d.answer_box("Editor Error", IDOK, &listed);
-    EXPECT_TRUE(check_object_name("Alpha"));  // known: nothing shown
-    EXPECT_TRUE(check_object_name("Ghost"));
-    EXPECT_FALSE(check_object_name("Ghost"));
-    report_already_on_list("Alpha");
-    EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(asked, "Object <Ghost> does not exist");
-    EXPECT_EQ(listed, "Object <Alpha> already on list");
-}
-
-TEST_F(order_rules_test, a_null_record_or_an_unknown_kind_opens_nothing) {
-    // Returning at all shows that no modal dialog opened.
-    EXPECT_EQ(edit_heli_order(host.main_window, nullptr), 0);
-    heli_order_record odd{};
-    odd.kind = HELI_ORDER_KIND_COUNT;
-    EXPECT_EQ(edit_heli_order(host.main_window, &odd), 0);
 }

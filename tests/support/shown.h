@@ -4,8 +4,10 @@
 // the control is greyed.
 #pragma once
 
+#include <algorithm>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "host/ui_driver.h"
 
@@ -20,4 +22,17 @@ inline std::string shown(HWND dialog, std::initializer_list<int> ids) {
         line += "," + (ui_enabled(dialog, id) ? value : "[" + value + "]");
     }
     return line.substr(1);
+}
+
+// A list box's lines joined with '/', each selected line marked with a
+// leading '>', so that a test states a list and its selection at once.
+inline std::string listed(HWND dialog, int id) {
+    const std::vector<std::string> lines = ui_list_items(dialog, id);
+    const std::vector<int> selected = ui_list_selected(dialog, id);
+    std::string all;
+    for (size_t i = 0; i < lines.size(); ++i) {
+        const bool marked = std::find(selected.begin(), selected.end(), int(i)) != selected.end();
+        all += (i ? "/" : "") + std::string(marked ? ">" : "") + lines[i];
+    }
+    return all;
 }

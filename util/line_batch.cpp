@@ -1,0 +1,87 @@
+#include "util/line_batch.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+
+namespace {
+// The key by which a sorted control ranks a line: the platform's sort key of
+// its text, compared without regard to case in the user's locale, as the
+// control itself compares.
+std::string sort_key(const char *text) {
+    int wide_length = MultiByteToWideChar(CP_ACP, 0, text, -1, nullptr, 0);
+    if (wide_length <= 0) return std::string();
+    std::wstring wide(static_cast<size_t>(wide_length), L'\0');
+    MultiByteToWideChar(CP_ACP, 0, text, -1, &wide[0], wide_length);
+    const DWORD flags = LCMAP_SORTKEY | NORM_IGNORECASE;
+    int key_length = LCMapStringW(LOCALE_USER_DEFAULT, flags, wide.c_str(), -1, nullptr, 0);
+    if (key_length <= 0) return std::string();
+    std::string key(static_cast<size_t>(key_length), '\0');
+    LCMapStringW(LOCALE_USER_DEFAULT, flags, wide.c_str(), -1, reinterpret_cast<LPWSTR>(&key[0]), key_length);
+    return key;
+}
+}  // namespace
+
+line_batch::line_batch(HWND control) : control_(control) {
+    char kind[16] = "";
+    GetClassNameA(control, kind, sizeof kind);
+    combo_ = lstrcmpiA(kind, "ComboBox") == 0;
+    const LONG style = GetWindowLongA(control, GWL_STYLE);
+    sorted_ = (style & (combo_ ? CBS_SORT : LBS_SORT)) != 0;
+    SendMessageA(control, combo_ ? CB_RESETCONTENT : LB_RESETCONTENT, 0, 0);
+}
+
+void line_batch::add(const char *text) {
+    lines_.push_back({texts_.size(), 0, false});
+    texts_.append(text ? text : "").push_back('\0');
+}
+
+void line_batch::add(const char *text, LPARAM data) {
+    add(text);
+    lines_.back().data = data;
+    lines_.back().with_data = true;
+}
+
+// The order a sorted control keeps the lines in; empty when the control does
+// not sort or any two lines rank equal (then they go in as they came).
+std::vector<size_t> line_batch::sorted_order() const {
+    if (!sorted_ || lines_.size() < 2) return {};
+    std::vector<size_t> order(lines_.size());
+    std::iota(order.begin(), order.end(), size_t{0});
+    std::vector<std::string> keys;
+    keys.reserve(lines_.size());
+    for (const line &l : lines_) keys.push_back(sort_key(texts_.c_str() + l.text));
+    std::sort(order.begin(), order.end(), [&](size_t a, size_t b) { return keys[a] < keys[b]; });
+    for (size_t i = 1; i < order.size(); ++i)
+        if (keys[order[i - 1]] == keys[order[i]]) return {};
+    return order;
+}
+
+const std::vector<LRESULT> &line_batch::commit() {
+    if (committed_) return indices_;
+    committed_ = true;
+    indices_.assign(lines_.size(), -1);
+    if (lines_.empty()) return indices_;
+    std::vector<size_t> order = sorted_order();
+    // Lines in the control's own order are put at its end, so that it
+    // neither searches nor moves anything; otherwise it places them itself.
+    const bool in_order = !order.empty();
+    if (!in_order) {
+        order.resize(lines_.size());
+        std::iota(order.begin(), order.end(), size_t{0});
+    }
+    const UINT add = combo_ ? (in_order ? CB_INSERTSTRING : CB_ADDSTRING) : (in_order ? LB_INSERTSTRING : LB_ADDSTRING);
+    const UINT set_data = combo_ ? CB_SETITEMDATA : LB_SETITEMDATA;
+    SendMessageA(control_, WM_SETREDRAW, FALSE, 0);
+    SendMessageA(control_, combo_ ? CB_INITSTORAGE : LB_INITSTORAGE, lines_.size(), texts_.size());
+    for (size_t i : order) {
+        const line &l = lines_[i];
+        LRESULT index = SendMessageA(control_, add, static_cast<WPARAM>(-1),
+                                     reinterpret_cast<LPARAM>(texts_.c_str() + l.text));
+        if (index >= 0 && l.with_data) SendMessageA(control_, set_data, static_cast<WPARAM>(index), l.data);
+        indices_[i] = index;
+    }
+    SendMessageA(control_, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(control_, nullptr, TRUE);
+    return indices_;
+}
