@@ -21,6 +21,8 @@
 #include "resources/placement_ids.h"
 #include "resources/window_ids.h"
 #include "tests/hostile/hostile_fixture.h"
+#include "tests/support/shown.h"
+#include "tests/support/steps.h"
 #include "windows/status.h"
 
 namespace {
@@ -48,35 +50,26 @@ unit_entry unit(int32_t id, char name, char type_name) {
     return u;
 }
 
-constexpr int double_click = -1;
-
-// A step that notes what the dialog shows in `ids` ("|" between controls, a
-// list's lines joined by "/", a combo box's selection), then selects line 0
-// of `select` (if any) and presses `button` (0: nothing; double_click:
-// double-clicks `select`).
-ui_driver::action look(std::string &into, std::vector<int> ids, int button = IDOK, int select = 0) {
-    return [&into, ids, button, select](HWND dialog) {
-        into.clear();
+// What a dialog shows in these controls ("|" between them): list boxes as
+// `listed` shows them, other controls as `shown` does.
+std::function<std::string(HWND)> screen(std::vector<int> ids) {
+    return [ids](HWND dialog) {
+        std::string all;
         for (int id : ids) {
             char kind[16] = "";
             GetClassNameA(GetDlgItem(dialog, id), kind, sizeof kind);
-            std::string shown;
-            if (!lstrcmpiA(kind, "ListBox"))
-                for (const std::string &line : ui_list_items(dialog, id)) shown += (shown.empty() ? "" : "/") + line;
-            else
-                shown = ui_text(dialog, id);
-            into += (into.empty() ? "" : "|") + shown;
+            all += (all.empty() ? "" : "|") + (lstrcmpiA(kind, "ListBox") ? shown(dialog, {id}) : listed(dialog, id));
         }
-        if (select) ui_list_select_index(dialog, select, 0);
-        if (button == double_click) ui_list_double_click(dialog, select);
-        else if (button) ui_command(dialog, button);
+        return all;
     };
 }
+using lines = std::vector<std::string>;
+using script = std::vector<std::pair<std::string, step>>;
 }  // namespace
 
 class hostile_data_test : public hostile_test {
 protected:
-    std::string ignored;
+    lines seen;  // what the dialogs showed, in order
 };
 
 // The allocator the hostile tests rely on: a block's last byte is followed
@@ -116,24 +109,20 @@ TEST_F(hostile_data_test, ground_dialogs_cut_unterminated_names_within_their_fie
     dlist_node *groups = host.make_group_list({g});
     cleanup.push_back([this, groups] { host.free_group_list(groups); });
 
-    std::string listed, composition, orders, order, contingency;
-    ui_driver d;
-    d.then("Group List", look(listed, {IDC_GL_GROUPS}, IDC_GL_EDIT, IDC_GL_GROUPS));
-    d.then("Dialog", look(composition, {IDC_GC_NAME, IDC_GC_AVAILABLE, IDC_GC_MEMBERS}, IDC_GC_EDIT_ORDERS));
-    d.then("Dialog", look(orders, {IDC_GO_ORDERS, IDC_GO_CONTINGENCIES}, IDC_GO_EDIT, IDC_GO_ORDERS));
-    d.then("Sarge Order", look(order, {IDC_ORDER_NAME, IDC_ORDER_MESSAGE, IDC_ORDER_MESSAGE_TARGET}));
-    d.then("Dialog", look(ignored, {}, IDC_GO_C_EDIT, IDC_GO_CONTINGENCIES));
-    d.then("Sarge Order", look(contingency, {IDC_CT_NEXT_ORDER, IDC_CT_VALUE, IDC_ORDER_NAME}));
-    for (const char *title : {"Dialog", "Dialog", "Group List"}) d.then(title, look(ignored, {}));
-    EXPECT_EQ(editor_window(REQUEST_GROUP_LIST, reinterpret_cast<uintptr_t>(groups), 0), 1);
-    EXPECT_DRIVER_OK(d);
-
-    EXPECT_EQ(listed, run_of('G'));
-    EXPECT_EQ(composition, run_of('G') + "|" + pair_of('A', 'B') + "/Tank2 (tank)|" + pair_of('C', 'D'));
-    EXPECT_EQ(orders, run_of('N') + " (Halt)|" + run_of('O') + " (Message)");
+    EXPECT_EQ(drive(script{
+                  {"Group List", noting(seen, screen({IDC_GL_GROUPS}), picking(IDC_GL_GROUPS, 0, press(IDC_GL_EDIT)))},
+                  {"Dialog", noting(seen, screen({IDC_GC_NAME, IDC_GC_AVAILABLE, IDC_GC_MEMBERS}), press(IDC_GC_EDIT_ORDERS))},
+                  {"Dialog", noting(seen, screen({IDC_GO_ORDERS, IDC_GO_CONTINGENCIES}), picking(IDC_GO_ORDERS, 0, press(IDC_GO_EDIT)))},
+                  {"Sarge Order", noting(seen, screen({IDC_ORDER_NAME, IDC_ORDER_MESSAGE, IDC_ORDER_MESSAGE_TARGET}), press(IDOK))},
+                  {"Dialog", picking(IDC_GO_CONTINGENCIES, 0, press(IDC_GO_C_EDIT))},
+                  {"Sarge Order", noting(seen, screen({IDC_CT_NEXT_ORDER, IDC_CT_VALUE, IDC_ORDER_NAME}), press(IDOK))},
+                  {"Dialog", press(IDOK)}, {"Dialog", press(IDOK)}, {"Group List", press(IDOK)}},
+              [&] { return editor_window(REQUEST_GROUP_LIST, reinterpret_cast<uintptr_t>(groups), 0); }),
+              1);
     // A stored target that is no host name shows the first host name.
-    EXPECT_EQ(order, run_of('N') + "|" + run_of('M') + "|HQ");
-    EXPECT_EQ(contingency, run_of('X', 15) + "|" + run_of('S') + "|" + run_of('O'));
+    EXPECT_EQ(seen, (lines{">" + run_of('G'), run_of('G') + "|" + pair_of('A', 'B') + "/Tank2 (tank)|" + pair_of('C', 'D'),
+                           run_of('N') + " (Halt)|" + run_of('O') + " (Message)", run_of('N') + "|" + run_of('M') + "|HQ",
+                           run_of('X', 15) + "|" + run_of('S') + "|" + run_of('O')}));
     // What OK stored ends within each field; what it does not store keeps its bytes.
     const sarge_order_record &stored = g->orders[0];
     EXPECT_EQ(text_of(g->name) + "|" + text_of(stored.name) + "|" + text_of(stored.message) + "|" +
@@ -149,15 +138,12 @@ TEST_F(hostile_data_test, ground_dialogs_cut_unterminated_names_within_their_fie
 TEST_F(hostile_data_test, object_name_list_skips_empty_nodes_and_cuts_names) {
     unit_entry plain = test_host::unit(8, "Jeep3", "jeep"), hostile = unit(7, 'E', 'F');
     dlist_node *objects = entries<unit_entry>({&hostile, nullptr, &plain});
-    std::string listed, edited;
-    ui_driver d;
-    d.then("Dialog", look(listed, {IDC_ON_LIST}, IDC_ON_EDIT_NAME, IDC_ON_LIST));
-    d.then("", look(edited, {IDC_EN_NAME}));
-    d.then("Dialog", look(ignored, {}));
-    EXPECT_EQ(editor_window(REQUEST_OBJECT_NAMES, reinterpret_cast<uintptr_t>(objects), 0), 1);
-    EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(listed, "7 : " + run_of('E') + "  (" + run_of('F') + ")/8 : Jeep3  (jeep)");
-    EXPECT_EQ(edited, run_of('E'));
+    EXPECT_EQ(drive(script{{"Dialog", noting(seen, screen({IDC_ON_LIST}), picking(IDC_ON_LIST, 0, press(IDC_ON_EDIT_NAME)))},
+                           {"", noting(seen, screen({IDC_EN_NAME}), press(IDOK))},
+                           {"Dialog", press(IDOK)}},
+                    [&] { return editor_window(REQUEST_OBJECT_NAMES, reinterpret_cast<uintptr_t>(objects), 0); }),
+              1);
+    EXPECT_EQ(seen, (lines{"7 : " + run_of('E') + "  (" + run_of('F') + ")/8 : Jeep3  (jeep)", run_of('E')}));
     EXPECT_EQ(text_of(values<unit_entry>(objects)[0]->name), run_of('E'));
 }
 
@@ -209,42 +195,36 @@ TEST_F(hostile_data_test, heli_dialogs_cut_unterminated_names_and_skip_empty_nod
     wait->body.wait->mode = WAIT_FOR_OBJECT;
     fill(wait->body.wait->name, 'Z');
 
-    std::string group, waypoints, waypoint, deployed, updated, picked, patrolled, waited;
-    ui_driver d;
-    d.then("Edit Heli Group", look(group, {IDC_HG_NAME, IDC_HG_RALLY_POINT, IDC_HG_MEMBERS, IDC_HG_AVAILABLE}));
-    d.then("Edit Waypoints", look(waypoints, {IDC_WPS_LIST}, IDCANCEL));
-    d.then("Edit Waypoint", look(waypoint, {IDC_WP_ORDERS, IDC_WP_MARKER}, IDCANCEL));
-    // The entry into the edits (a double-click), then Update with what they show.
-    d.then("Edit Deploy Order", look(deployed, {IDC_DEPLOY_LIST}, double_click, IDC_DEPLOY_LIST));
-    d.then("Edit Deploy Order", look(updated, {IDC_DEPLOY_NAME}, IDC_DEPLOY_UPDATE, IDC_DEPLOY_LIST));
-    d.answer_box("Editor Question", IDYES);
-    d.then("Edit Deploy Order", look(ignored, {}));
-    d.then("Edit Pickup Order", look(picked, {IDC_PICKUP_LIST}, double_click, IDC_PICKUP_LIST));
-    d.then("Edit Pickup Order", look(picked, {IDC_PICKUP_LIST, IDC_PICKUP_NAME}));
-    d.then("Edit Patrol Order", look(patrolled, {IDC_PATROL_POINTS, IDC_PATROL_MARKERS}));
-    d.then("Edit Wait Order", look(waited, {IDC_WAIT_NAME}));
-    d.answer_box("Editor Question", IDYES);
     HWND owner = host.main_window;
-    EXPECT_EQ(edit_heli_group(owner, g, available), 1);
-    EXPECT_EQ(edit_waypoints(owner, route), 0);
-    EXPECT_EQ(edit_waypoint(owner, unnamed), 0);
-    EXPECT_EQ(edit_deploy_order(owner, deploy->body.deploy), 1);
-    EXPECT_EQ(edit_pickup_order(owner, pickup->body.pickup), 1);
-    EXPECT_EQ(edit_patrol_order(owner, patrol->body.patrol), 1);
-    EXPECT_EQ(edit_wait_order(owner, wait->body.wait), 1);
-    EXPECT_DRIVER_OK(d);
-
-    EXPECT_EQ(group, run_of('H') + "|" + run_of('R') + "|" + run_of('U') + "|" + run_of('S'));
+    // Each dialog's answer, a digit each in the order opened.
+    EXPECT_EQ(drive(script{
+                  {"Edit Heli Group", noting(seen, screen({IDC_HG_NAME, IDC_HG_RALLY_POINT, IDC_HG_MEMBERS, IDC_HG_AVAILABLE}), press(IDOK))},
+                  {"Edit Waypoints", noting(seen, screen({IDC_WPS_LIST}), press(IDCANCEL))},
+                  {"Edit Waypoint", noting(seen, screen({IDC_WP_ORDERS, IDC_WP_MARKER}), press(IDCANCEL))},
+                  // The entry into the edits (a double-click), then Update with what they show.
+                  {"Edit Deploy Order", noting(seen, screen({IDC_DEPLOY_LIST}), picking(IDC_DEPLOY_LIST, 0))},
+                  {"Edit Deploy Order", noting(seen, screen({IDC_DEPLOY_NAME}), picking(IDC_DEPLOY_LIST, 0, press(IDC_DEPLOY_UPDATE)))},
+                  {"Editor Question", press(IDYES)},
+                  {"Edit Deploy Order", press(IDOK)},
+                  {"Edit Pickup Order", picking(IDC_PICKUP_LIST, 0)},
+                  {"Edit Pickup Order", noting(seen, screen({IDC_PICKUP_LIST, IDC_PICKUP_NAME}), press(IDOK))},
+                  {"Edit Patrol Order", noting(seen, screen({IDC_PATROL_POINTS, IDC_PATROL_MARKERS}), press(IDOK))},
+                  {"Edit Wait Order", noting(seen, screen({IDC_WAIT_NAME}), press(IDOK))},
+                  {"Editor Question", press(IDYES)}},
+              [&] {
+                  return edit_heli_group(owner, g, available) * 1000000 + edit_waypoints(owner, route) * 100000 +
+                         edit_waypoint(owner, unnamed) * 10000 + edit_deploy_order(owner, deploy->body.deploy) * 1000 +
+                         edit_pickup_order(owner, pickup->body.pickup) * 100 +
+                         edit_patrol_order(owner, patrol->body.patrol) * 10 + edit_wait_order(owner, wait->body.wait);
+              }),
+              1001111);
+    // Marker names as they would be stored; the unterminated marker is none of them.
+    EXPECT_EQ(seen, (lines{run_of('H') + "|" + run_of('R') + "|" + run_of('U') + "|" + run_of('S'),
+                           run_of('W') + "/Waypoint 1", "Deploy/Pickup/Wait|None Selected",
+                           run_of('P') + "    1.0    2.0", run_of('P'), ">" + run_of('K', 24) + "|" + run_of('K', 24),
+                           run_of('Q') + "|" + run_of('L') + "/WP1", run_of('Z')}));
     EXPECT_EQ(text_of(g->name), run_of('H'));
-    EXPECT_EQ(waypoints, run_of('W') + "/Waypoint 1");
-    // The marker list's names as they would be stored; the unterminated marker is none of them.
-    EXPECT_EQ(waypoint, "Deploy/Pickup/Wait|None Selected");
-    EXPECT_EQ(deployed, run_of('P') + "    1.0    2.0");
-    EXPECT_EQ(updated, run_of('P'));
     EXPECT_EQ(text_of(values<deploy_entry>(deploy->body.deploy)[0]->name), run_of('P'));
-    EXPECT_EQ(picked, run_of('K', 24) + "|" + run_of('K', 24));
-    EXPECT_EQ(patrolled, run_of('Q') + "|" + run_of('L') + "/WP1");
-    EXPECT_EQ(waited, run_of('Z'));
     EXPECT_EQ(text_of(wait->body.wait->name), run_of('Z'));
 }
 
@@ -269,29 +249,27 @@ TEST_F(hostile_data_test, air_dialogs_cut_unterminated_names_and_offer_no_name_t
     rally_point_record *p = record(point);
     host.markers = {run_of('L', 40), run_of('M'), "WP1"};
 
-    std::string bombing, offered, ingress, rally, location;
-    ui_driver d;
-    d.then("Edit Bombing Run Details", [&](HWND dlg) {
-        for (const std::string &t : ui_combo_items(dlg, IDC_BR_AIRCRAFT_TYPE)) offered += t + "/";
-        look(bombing, {IDC_BR_NAME, IDC_BR_AIRCRAFT_TYPE, IDC_BR_MARKERS}, 0)(dlg);
-    });
-    d.then("Edit Bombing Run Details", look(ingress, {IDC_BR_INGRESS}));
-    d.then("Edit Rally Point Details", look(rally, {IDC_RP_NAME}, 0));
-    d.then("Edit Rally Point Details", look(location, {IDC_RP_ARSP}));
-    EXPECT_EQ(edit_bombing_run(r), 1);
-    EXPECT_EQ(edit_rally_point(p), 1);
-    EXPECT_DRIVER_OK(d);
+    auto types = [](HWND dialog) {
+        std::string all;
+        for (const std::string &t : ui_combo_items(dialog, IDC_BR_AIRCRAFT_TYPE)) all += t + "/";
+        return all + screen({IDC_BR_NAME, IDC_BR_AIRCRAFT_TYPE, IDC_BR_MARKERS})(dialog);
+    };
+    EXPECT_EQ(drive(script{{"Edit Bombing Run Details", noting(seen, types, noting(seen, screen({IDC_BR_INGRESS}), press(IDOK)))},
+                           {"Edit Rally Point Details", noting(seen, screen({IDC_RP_NAME}), noting(seen, screen({IDC_RP_ARSP}), press(IDOK)))}},
+                    [&] { return edit_bombing_run(r) * 10 + edit_rally_point(p); }),
+              11);
     // Types and markers too long for a 32-byte field are not offered.
-    EXPECT_EQ(offered, "A-10/" + type + "/");
-    EXPECT_EQ(bombing, run_of('B') + "|" + type + "|" + run_of('M') + "/WP1");
-    EXPECT_EQ(text_of(r->name) + "|" + text_of(r->aircraft_type), run_of('B') + "|" + type);
-    EXPECT_EQ(ingress.substr(0, 32), run_of('I') + " ");
-    EXPECT_EQ(std::strtof(ingress.c_str() + 32, nullptr), inbound.height);
-    EXPECT_EQ(rally, run_of('R'));
-    EXPECT_EQ(text_of(p->name), run_of('R'));
+    ASSERT_EQ(seen.size(), 4u);
+    EXPECT_EQ(seen[0], "A-10/" + type + "/" + run_of('B') + "|" + type + "|>" + run_of('M') + "/WP1");
+    EXPECT_EQ(seen[1].substr(0, 32), run_of('I') + " ");
+    EXPECT_EQ(std::strtof(seen[1].c_str() + 32, nullptr), inbound.height);
+    EXPECT_EQ(seen[2], run_of('R'));
     char *z = nullptr;
-    EXPECT_EQ(std::strtof(location.c_str(), &z), far_off.x);
+    EXPECT_EQ(seen[3].substr(0, 1), ">");
+    EXPECT_EQ(std::strtof(seen[3].c_str() + 1, &z), far_off.x);
     EXPECT_EQ(std::strtof(z, nullptr), far_off.z);
+    EXPECT_EQ(text_of(r->name) + "|" + text_of(r->aircraft_type), run_of('B') + "|" + type);
+    EXPECT_EQ(text_of(p->name), run_of('R'));
 }
 
 // A preset reference name that fills its 64 bytes, and an info line whose
@@ -302,12 +280,10 @@ TEST_F(hostile_data_test, reference_name_and_info_line_cut_what_the_host_overfil
     objects.preset = objects.enabled = CO_TYPE | CO_REF_OBJ;
     fill(objects.ref_obj, 'R');
     create_objects_record *o = record(objects);
-    std::string selected;
-    ui_driver d;
-    d.then("Create New Objects", look(selected, {IDC_CO_REF_OBJ}));
-    EXPECT_EQ(create_objects_dialog(o), 1);
-    EXPECT_DRIVER_OK(d);
-    EXPECT_EQ(selected, run_of('R', 63));
+    EXPECT_EQ(drive("Create New Objects", {noting(seen, screen({IDC_CO_REF_OBJ}), press(IDOK))},
+                    [&] { return create_objects_dialog(o); }),
+              1);
+    EXPECT_EQ(seen, lines{run_of('R', 63)});
     EXPECT_EQ(text_of(o->ref_obj), run_of('R', 63));
     EXPECT_EQ(std::string(create_objects_remembered().ref_obj), run_of('R', 63));
 
