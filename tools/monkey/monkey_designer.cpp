@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <map>
 #include <set>
 
 #include "host/host_app.h"
@@ -39,7 +40,8 @@ struct designer_state {
     DWORD started = 0;
     bool busy = false;
     bool trace = false;
-    std::set<HWND> open;  // the dialogs seen up at the last tick
+    std::map<HWND, long> open;  // the dialogs up at the last tick, by when they were first seen
+    long opened = 0;
     DWORD last_action = 0;
     CRITICAL_SECTION seen_lock;
     std::string last_seen;
@@ -51,8 +53,9 @@ std::string class_of(HWND window) {
     return name;
 }
 
-// Visible dialogs of this thread, topmost first: the toolbar and the Status
-// window are the editor's own modeless windows and are left alone.
+// Visible dialogs of this thread, topmost first. The toolbar and the Status
+// window are dialogs too, but stay up all the time: they are reached apart
+// (act_modeless), never closed.
 std::vector<HWND> visible_dialogs() {
     std::vector<HWND> out;
     for (HWND window : ui_thread_windows())
@@ -148,7 +151,7 @@ void answer_box(HWND box, const std::string &title) {
     post_command(box, id, BN_CLICKED);
 }
 
-// The platform's save dialog: a typed name and ACT_OK, or Cancel. Nothing else
+// The platform's save dialog: a typed name and OK, or Cancel. Nothing else
 // of it is explored (its folder buttons reach the file system).
 void answer_save(HWND dialog) {
     const int name_field = GetDlgItem(dialog, cmb13) ? cmb13 : edt1;
@@ -168,13 +171,13 @@ void act_on_list(HWND dialog, const std::string &title, action_kind kind, const 
     monkey_random &r = random_source();
     const int count = static_cast<int>(SendMessageA(c.window, LB_GETCOUNT, 0, 0));
     if (kind == ACT_MULTI) {
-        long chosen = 0;
+        uint32_t chosen = 0;  // the selection as bits, for the digest (wraps on long lists)
         for (int i = 0; i < count; ++i) {
             const bool on = r.percent(35);
             SendMessageA(c.window, LB_SETSEL, on, i);
             chosen = chosen * 2 + on;
         }
-        record(title, kind, c.id, chosen);
+        record(title, kind, c.id, static_cast<long>(chosen));
         post_command(dialog, c.id, LBN_SELCHANGE);
         return;
     }
@@ -305,8 +308,8 @@ void act_modeless() {
     }
 }
 
-// Once the budget is spent: the topmost dialog is closed, a box answered No
-// (or ACT_OK), until nothing is left open.
+// Once the budget is spent: the topmost dialog is cancelled, a question
+// answered No, until nothing is left open.
 void wind_down(HWND dialog) {
     const int id = GetDlgItem(dialog, IDNO) ? IDNO : IDCANCEL;
     post_command(dialog, id, BN_CLICKED);
@@ -319,19 +322,27 @@ void CALLBACK on_tick(HWND, UINT, UINT_PTR, DWORD) {
     const std::vector<HWND> windows = visible_dialogs();
     note_seen(windows);
     // Every dialog that has gone since the last tick is checked after.
-    std::set<HWND> now(windows.begin(), windows.end());
-    for (HWND gone : designer.open)
-        if (!now.count(gone)) check_host("a dialog closed", false);
+    std::map<HWND, long> now;
     for (HWND window : windows) {
-        if (designer.open.count(window)) continue;
+        auto seen = designer.open.find(window);
+        if (seen != designer.open.end()) {
+            now.insert(*seen);
+            continue;
+        }
+        now[window] = ++designer.opened;
         ++figures().dialogs_opened;
         ++figures().opened_by_title[kind_of(window)];
     }
+    for (const auto &was : designer.open)
+        if (!now.count(was.first)) check_host("a dialog closed", false);
     designer.open = now;
 
+    // The enabled dialogs, the one opened last first. Not by stacking order:
+    // that follows activation, which the platform settles in its own time.
     std::vector<HWND> enabled;
     for (HWND window : windows)
         if (IsWindowEnabled(window)) enabled.push_back(window);
+    std::stable_sort(enabled.begin(), enabled.end(), [](HWND a, HWND b) { return designer.open[a] > designer.open[b]; });
     monkey_figures &f = figures();
     if (enabled.empty() && designer.modeless_turns > 0) {
         --designer.modeless_turns;
@@ -344,8 +355,8 @@ void CALLBACK on_tick(HWND, UINT, UINT_PTR, DWORD) {
             act_modeless();
             designer.last_action = GetTickCount();
         } else {
-            // Mostly the topmost dialog; now and then one underneath that is
-            // still enabled (Group List stays so under Group Composition).
+            // Mostly the dialog opened last; now and then one under it that
+            // is still enabled (Group List stays so under Group Composition).
             monkey_random &r = random_source();
             HWND target = enabled.size() > 1 && r.percent(10) ? r.pick(enabled) : enabled.front();
             act(target);
