@@ -54,6 +54,25 @@ uintptr_t nth(const dlist_node *list, int n) {
     return node->value;
 }
 uintptr_t arg(const void *p) { return reinterpret_cast<uintptr_t>(p); }
+
+std::vector<step> steps_of(std::initializer_list<std::vector<step>> parts) {
+    std::vector<step> all;
+    for (const std::vector<step> &part : parts) all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+// A new order of `kind` from Edit Waypoint, left with Cancel after `first`
+// (if any), then another left with the close box.
+std::vector<step> order_left(uint32_t kind, const char *dialog, const char *chosen, std::vector<step> first = {}) {
+    std::vector<step> out = {{"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+                             {"order type", chosen, all({select_at(IDC_SOT_KINDS, static_cast<int>(kind)), ok})}};
+    out.insert(out.end(), first.begin(), first.end());
+    out.push_back({dialog, "Cancel", cancel});
+    out.push_back(out[0]);
+    out.push_back(out[1]);
+    out.push_back({dialog, "close box", close_box});
+    return out;
+}
 }  // namespace
 
 const std::vector<flow> &all_flows() {
@@ -74,6 +93,28 @@ const std::vector<flow> &all_flows() {
          {
              {"create objects", "11 objects, OK", all({type(IDC_CO_NUMBER, "11"), ok})},
              {"create objects", "close box", close_box},
+         }},
+        {"create objects: Cancel", REQUEST_CREATE_OBJECTS,
+         [](const mission &m) { return std::make_pair(arg(m.placement), uintptr_t(0)); },
+         {
+             {"create objects", "type Cultural", combo(IDC_CO_TYPE, "Cultural")},
+             {"create objects", "Cancel", cancel},
+         }},
+        {"object names: a rename, then Cancel", REQUEST_OBJECT_NAMES,
+         [](const mission &m) { return std::make_pair(arg(m.objects), uintptr_t(0)); },
+         {
+             {"object names", "Edit Name on the second line", pick_at(IDC_ON_LIST, 1, IDC_ON_EDIT_NAME)},
+             {"edit name", "Mill, OK", all({type(IDC_EN_NAME, "Mill"), ok})},
+             {"object names", "Cancel", cancel},
+         }},
+        {"object names: the close box", REQUEST_OBJECT_NAMES,
+         [](const mission &m) { return std::make_pair(arg(m.objects), uintptr_t(0)); },
+         {{"object names", "close box", close_box}}},
+        {"group list: sarge0 removed, then the close box", REQUEST_GROUP_LIST,
+         [](const mission &m) { return std::make_pair(arg(m.groups), uintptr_t(0)); },
+         {
+             {"group list", "Remove sarge0", pick(IDC_GL_GROUPS, "sarge0", IDC_GL_REMOVE)},
+             {"group list", "close box", close_box},
          }},
         {"object names: renames through Edit Name", REQUEST_OBJECT_NAMES,
          [](const mission &m) { return std::make_pair(arg(m.objects), uintptr_t(0)); },
@@ -250,43 +291,50 @@ const std::vector<flow> &all_flows() {
              {"waypoint", "OK", ok},
              {"route", "OK", ok},
              {"heli group", "OK", ok},
-             {"heli list", "OK", ok},
+             {"heli list", "Cancel", cancel},
          }},
         {"heli list: Bravo removed, then edits left unconfirmed at every level", REQUEST_LIST_HELI_GROUPS,
          [](const mission &m) { return std::make_pair(arg(m.heli_groups), arg(m.available)); },
-         {
-             {"heli list", "Remove Bravo", pick(IDC_LHG_GROUPS, "Bravo", IDC_LHG_REMOVE)},
-             {"heli list", "double-click Alpha", all({select(IDC_LHG_GROUPS, "Alpha"), double_click(IDC_LHG_GROUPS)})},
-             {"heli group", "Add-> U16", pick(IDC_HG_AVAILABLE, "U16", IDC_HG_ADD)},
-             {"heli group", "Edit Waypoints", click(IDC_HG_EDIT_WAYPOINTS)},
-             {"route", "Edit WP_South", pick(IDC_WPS_LIST, "WP_South", IDC_WPS_EDIT)},
-             {"waypoint", "Edit Engage", pick(IDC_WP_ORDERS, "Engage", IDC_WP_ORDER_EDIT)},
-             {"engage", "close box", close_box},
-             {"waypoint", "order Insert, nothing selected", click(IDC_WP_ORDER_INSERT)},
-             {"order type", "Cancel", cancel},
-             {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
-             {"order type", "Land, OK", all({select_at(IDC_SOT_KINDS, HELI_ORDER_LAND), ok})},
-             {"land", "Cancel", cancel},
-             {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
-             {"order type", "Pickup, OK", all({select_at(IDC_SOT_KINDS, HELI_ORDER_PICKUP), ok})},
-             {"pickup", "Add Tank1", all({type(IDC_PICKUP_NAME, "Tank1"), click(IDC_PICKUP_ADD)})},
-             {"pickup", "close box", close_box},
-             {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
-             {"order type", "Patrol, OK", all({select_at(IDC_SOT_KINDS, HELI_ORDER_PATROL), ok})},
-             {"patrol", "Add WP1", pick(IDC_PATROL_MARKERS, "WP1", IDC_PATROL_ADD)},
-             {"patrol", "Cancel", cancel},
-             {"waypoint", "close box", close_box},
-             {"route", "Insert before WP_North", pick(IDC_WPS_LIST, "WP_North", IDC_WPS_INSERT)},
-             {"waypoint", "Cancel", cancel},
-             {"route", "Cancel", cancel},
-             {"heli group", "in-transit sarges", click(IDC_HG_IN_TRANSIT)},
-             {"deploy", "Delete Tank1", pick_at(IDC_DEPLOY_LIST, 0, IDC_DEPLOY_DELETE)},
-             {"deploy", "Cancel", cancel},
-             {"heli group", "Cancel", cancel},
-             {"heli list", "Add", click(IDC_LHG_ADD)},
-             {"heli group", "close box", close_box},
-             {"heli list", "close box", close_box},
-         }},
+         steps_of({
+             {
+                 {"heli list", "Remove Bravo", pick(IDC_LHG_GROUPS, "Bravo", IDC_LHG_REMOVE)},
+                 {"heli list", "double-click Alpha",
+                  all({select(IDC_LHG_GROUPS, "Alpha"), double_click(IDC_LHG_GROUPS)})},
+                 {"heli group", "Add-> U16", pick(IDC_HG_AVAILABLE, "U16", IDC_HG_ADD)},
+                 {"heli group", "Edit Waypoints", click(IDC_HG_EDIT_WAYPOINTS)},
+                 {"route", "Edit WP_South", pick(IDC_WPS_LIST, "WP_South", IDC_WPS_EDIT)},
+                 {"waypoint", "Edit Engage", pick(IDC_WP_ORDERS, "Engage", IDC_WP_ORDER_EDIT)},
+                 {"engage", "Cancel", cancel},
+                 {"waypoint", "Edit Engage", pick(IDC_WP_ORDERS, "Engage", IDC_WP_ORDER_EDIT)},
+                 {"engage", "close box", close_box},
+                 {"waypoint", "order Insert, nothing selected", click(IDC_WP_ORDER_INSERT)},
+                 {"order type", "Cancel", cancel},
+                 {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+                 {"order type", "close box", close_box},
+             },
+             order_left(HELI_ORDER_DEPLOY, "deploy", "Deploy, OK"),
+             order_left(HELI_ORDER_PICKUP, "pickup", "Pickup, OK",
+                        {{"pickup", "Add Tank1", all({type(IDC_PICKUP_NAME, "Tank1"), click(IDC_PICKUP_ADD)})}}),
+             order_left(HELI_ORDER_PATROL, "patrol", "Patrol, OK",
+                        {{"patrol", "Add WP1", pick(IDC_PATROL_MARKERS, "WP1", IDC_PATROL_ADD)}}),
+             order_left(HELI_ORDER_WAIT, "wait", "Wait, OK"),
+             order_left(HELI_ORDER_LAND, "land", "Land, OK"),
+             {
+                 {"waypoint", "close box", close_box},
+                 {"route", "Insert before WP_North", pick(IDC_WPS_LIST, "WP_North", IDC_WPS_INSERT)},
+                 {"waypoint", "Cancel", cancel},
+                 {"route", "Cancel", cancel},
+                 {"heli group", "Edit Waypoints", click(IDC_HG_EDIT_WAYPOINTS)},
+                 {"route", "close box", close_box},
+                 {"heli group", "in-transit sarges", click(IDC_HG_IN_TRANSIT)},
+                 {"deploy", "Delete Tank1", pick_at(IDC_DEPLOY_LIST, 0, IDC_DEPLOY_DELETE)},
+                 {"deploy", "Cancel", cancel},
+                 {"heli group", "Cancel", cancel},
+                 {"heli list", "Add", click(IDC_LHG_ADD)},
+                 {"heli group", "close box", close_box},
+                 {"heli list", "close box", close_box},
+             },
+         })},
         {"edit heli group: Alpha in place, its route and cargo confirmed", REQUEST_EDIT_HELI_GROUP,
          [](const mission &m) { return std::make_pair(nth(m.heli_groups, 0), arg(m.available)); },
          {
@@ -347,6 +395,18 @@ const std::vector<flow> &all_flows() {
              {"rally point", "<< Delete the first", pick_at(IDC_RP_ARSP, 0, IDC_RP_DELETE)},
              {"rally point", "Rally North at 110, -30, OK",
               all({type(IDC_RP_NAME, "Rally North"), type(IDC_RP_X, "110"), type(IDC_RP_Z, "-30"), ok})},
+         }},
+        {"bombing run: an Insert, then Cancel", REQUEST_BOMBING_RUN,
+         [](const mission &m) { return std::make_pair(arg(m.run), uintptr_t(0)); },
+         {
+             {"bombing run", "<< Insert WP2, nothing selected", pick(IDC_BR_MARKERS, "WP2", IDC_BR_INGRESS_INSERT)},
+             {"bombing run", "Cancel", cancel},
+         }},
+        {"rally point: a Delete, then the close box", REQUEST_RALLY_POINT,
+         [](const mission &m) { return std::make_pair(arg(m.rally), uintptr_t(0)); },
+         {
+             {"rally point", "<< Delete the first", pick_at(IDC_RP_ARSP, 0, IDC_RP_DELETE)},
+             {"rally point", "close box", close_box},
          }},
         {"rally point: an Add, then Cancel", REQUEST_RALLY_POINT,
          [](const mission &m) { return std::make_pair(arg(m.rally), uintptr_t(0)); },

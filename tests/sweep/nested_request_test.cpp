@@ -52,6 +52,10 @@ int answered(Call call, std::vector<std::string> &shown) {
     return result;
 }
 
+bool ends_with(const std::string &text, const std::string &end) {
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
 std::string joined(const std::vector<std::string> &lines) {
     std::string out;
     for (const std::string &line : lines) out += "    " + line + "\n";
@@ -144,6 +148,15 @@ TEST_F(nested_request_test, every_request_from_inside_every_dialog_is_refused_or
         }
     }
     EXPECT_EQ(kinds.size(), 22u) << "every dialog of the editor is reached";
+    // Somewhere in the flows, each kind is ended with OK, with Cancel and with its close box.
+    for (const std::string &kind : kinds) {
+        std::set<std::string> ends;
+        for (const flow &f : flows)
+            for (const step &st : f.steps)
+                for (const std::string end : {"OK", "Cancel", "close box"})
+                    if (st.kind == kind && ends_with(st.name, end)) ends.insert(end);
+        EXPECT_EQ(ends.size(), 3u) << kind;
+    }
     std::printf("nested requests: %u dialog kinds, %d requests refused, %d served, %u shut-downs\n",
                 static_cast<unsigned>(kinds.size()), refused, served, static_cast<unsigned>(kinds.size()));
     for (size_t fi = 0; fi < flows.size(); ++fi)
