@@ -68,6 +68,11 @@ protected:
     std::vector<std::string> wrong;  // what went otherwise than expected inside the dialogs
     int refused = 0, served = 0;
 
+    void restart() {
+        EXPECT_EQ(start_editor(), 1);
+        install_fault_points();
+    }
+
     // Every request from inside the dialogs that are up, on a mission of its own.
     void ask_everything() {
         std::set<std::string> open;
@@ -129,22 +134,25 @@ TEST_F(nested_request_test, every_request_from_inside_every_dialog_is_refused_or
             EXPECT_TRUE(served.failures.empty()) << served.failures.begin()->first << joined(served.log);
             EXPECT_TRUE(served.state == clean.state) << differences(served.state, clean.state) << joined(served.log);
 
-            // Shut down there and started again, the designer going on: as
-            // if every dialog had been cancelled at that point.
-            variation shut;
-            shut.probe_at = s;
-            shut.probe = [this](HWND) {
-                EXPECT_EQ(editor_tidyup(), 1);
-                EXPECT_EQ(start_editor(), 1);
-                install_fault_points();
-                return true;
-            };
+            // Shut down there, started again at once or only afterwards,
+            // the designer going on: as if every dialog had been cancelled
+            // at that point.
             variation cancelled;
             cancelled.stop = s;
             const outcome &expected = oracle(fi, "stop " + std::to_string(s), {}, cancelled);
-            const outcome ended = play(flows[fi], {}, shut);
-            EXPECT_TRUE(ended.failures.empty()) << ended.failures.begin()->first << joined(ended.log);
-            EXPECT_TRUE(ended.state == expected.state) << differences(ended.state, expected.state) << joined(ended.log);
+            for (bool restart_inside : {true, false}) {
+                variation shut;
+                shut.probe_at = s;
+                shut.probe = [this, restart_inside](HWND) {
+                    EXPECT_EQ(editor_tidyup(), 1);
+                    if (restart_inside) restart();
+                    return true;
+                };
+                const outcome ended = play(flows[fi], {}, shut);
+                if (!restart_inside) restart();
+                EXPECT_TRUE(ended.failures.empty()) << ended.failures.begin()->first << joined(ended.log);
+                EXPECT_TRUE(ended.state == expected.state) << differences(ended.state, expected.state) << joined(ended.log);
+            }
         }
     }
     EXPECT_EQ(kinds.size(), 22u) << "every dialog of the editor is reached";
@@ -158,7 +166,7 @@ TEST_F(nested_request_test, every_request_from_inside_every_dialog_is_refused_or
         EXPECT_EQ(ends.size(), 3u) << kind;
     }
     std::printf("nested requests: %u dialog kinds, %d requests refused, %d served, %u shut-downs\n",
-                static_cast<unsigned>(kinds.size()), refused, served, static_cast<unsigned>(kinds.size()));
+                static_cast<unsigned>(kinds.size()), refused, served, static_cast<unsigned>(2 * kinds.size()));
     for (size_t fi = 0; fi < flows.size(); ++fi)
         EXPECT_TRUE(play(flows[fi], {}).state == oracle(fi, "clean", {}, {}).state) << flows[fi].name;
 }
