@@ -433,21 +433,24 @@ public:
     }
 
 private:
+    // The designer acts on the newest enabled window: Group List stays
+    // enabled under Group Composition, and the stacking order of the two
+    // may change when some other window closes.
     void on_tick() {
         if (busy_) return;
         busy_ = true;
-        std::vector<HWND> up;
+        std::map<HWND, int> up;
         for (HWND w : ui_thread_windows())
-            if (is_flow_window(w)) up.push_back(w);
+            if (is_flow_window(w)) up[w] = arrivals_.count(w) ? arrivals_[w] : ++arrived_;
+        arrivals_ = up;
+        HWND newest = nullptr;
+        for (const auto &w : up)
+            if (IsWindowEnabled(w.first) && (!newest || w.second > up[newest])) newest = w.first;
         if (GetTickCount() - started_ > 60000 || out_.log.size() > 600) {
             out_.hung = true;
-            for (HWND w : up) EndDialog(w, IDCANCEL);
-        } else {
-            for (HWND w : up) {
-                if (!IsWindowEnabled(w)) continue;
-                visit(w, static_cast<int>(up.size()));
-                break;
-            }
+            for (const auto &w : up) EndDialog(w.first, IDCANCEL);
+        } else if (newest) {
+            visit(newest, static_cast<int>(up.size()));
         }
         busy_ = false;
     }
@@ -491,6 +494,8 @@ private:
     variation v_;
     outcome &out_;
     size_t cursor_ = 0;
+    std::map<HWND, int> arrivals_;  // each window up, by when it came
+    int arrived_ = 0;
     bool busy_ = false;
     DWORD started_ = GetTickCount();
 };
