@@ -131,8 +131,8 @@ TEST_F(nested_request_test, every_request_from_inside_every_dialog_is_refused_or
             wrong.clear();
             const outcome served = play(flows[fi], {}, asked);
             EXPECT_TRUE(wrong.empty()) << joined(wrong);
-            EXPECT_TRUE(served.failures.empty()) << served.failures.begin()->first << joined(served.log);
-            EXPECT_TRUE(served.state == clean.state) << differences(served.state, clean.state) << joined(served.log);
+            EXPECT_TRUE(served.failures.empty()) << described(served);
+            EXPECT_TRUE(served.state == clean.state) << differences(served.state, clean.state) << described(served);
 
             // Shut down there, started again at once or only afterwards,
             // the designer going on: as if every dialog had been cancelled
@@ -150,8 +150,8 @@ TEST_F(nested_request_test, every_request_from_inside_every_dialog_is_refused_or
                 };
                 const outcome ended = play(flows[fi], {}, shut);
                 if (!restart_inside) restart();
-                EXPECT_TRUE(ended.failures.empty()) << ended.failures.begin()->first << joined(ended.log);
-                EXPECT_TRUE(ended.state == expected.state) << differences(ended.state, expected.state) << joined(ended.log);
+                EXPECT_TRUE(ended.failures.empty()) << described(ended);
+                EXPECT_TRUE(ended.state == expected.state) << differences(ended.state, expected.state) << described(ended);
             }
         }
     }

@@ -16,10 +16,29 @@ std::string raw(const void *block, size_t size) {
     return block ? std::string(static_cast<const char *>(block), size) : "null";
 }
 
+// Where a snapshot reports the lists it finds broken.
+std::vector<std::string> *broken = nullptr;
+
+// The values of a list, front to back, the list checked on the way: its
+// head keeps its mark, every node's next->prev and prev->next is itself, and
+// walking back meets as many nodes.
 std::vector<void *> values(const dlist_node *list) {
     std::vector<void *> out;
-    for (const dlist_node *n = list ? list->next : nullptr; n && n != list; n = n->next)
+    if (!list) return out;
+    auto report = [](const std::string &what) {
+        if (broken) broken->push_back(what);
+    };
+    if (list->value != reinterpret_cast<uintptr_t>(list)) report("a head lost its mark");
+    for (const dlist_node *n = list->next; n != list; n = n->next) {
+        if (n->next->prev != n || n->prev->next != n || out.size() > 100000) {
+            report("node " + std::to_string(out.size()) + " is linked one way only");
+            return out;
+        }
         out.push_back(reinterpret_cast<void *>(n->value));
+    }
+    size_t back = 0;
+    for (const dlist_node *n = list->prev; n != list && back <= out.size(); n = n->prev) ++back;
+    if (back != out.size()) report(std::to_string(out.size()) + " nodes forward, more back");
     return out;
 }
 std::string entries(const dlist_node *list, size_t size) {
@@ -199,7 +218,8 @@ void mission::free(test_host &host) {
     *this = mission{};
 }
 
-record_bytes mission::snapshot() const {
+record_bytes mission::snapshot(std::vector<std::string> *broken_lists) const {
+    broken = broken_lists;
     record_bytes out;
     int i = 0;
     for (void *g : values(groups)) {
@@ -225,54 +245,8 @@ record_bytes mission::snapshot() const {
                          entries(run->egress, 48) + "|types" + entries(run->aircraft_types, 32);
     out["rally point"] = without_pointers(rally, sizeof *rally, {48}) + entries(rally->arsp_locations, 12);
     out["create objects"] = raw(placement, sizeof *placement);
+    broken = nullptr;
     return out;
-}
-
-namespace {
-void check_list(const std::string &name, const dlist_node *head, std::vector<std::string> &broken) {
-    if (!head) return;
-    if (head->value != reinterpret_cast<uintptr_t>(head)) broken.push_back(name + ": head lost its mark");
-    size_t forward = 0, backward = 0;
-    for (const dlist_node *n = head->next; n != head && forward <= 100000; n = n->next, ++forward)
-        if (n->next->prev != n || n->prev->next != n) {
-            broken.push_back(name + ": node " + std::to_string(forward) + " is linked one way only");
-            return;
-        }
-    for (const dlist_node *n = head->prev; n != head && backward <= 100000; n = n->prev) ++backward;
-    if (forward != backward || forward > 100000)
-        broken.push_back(name + ": " + std::to_string(forward) + " nodes forward, " + std::to_string(backward) + " back");
-}
-
-void check_order(const std::string &name, const heli_order_record *o, std::vector<std::string> &broken) {
-    if (!o) return;
-    if (o->kind == HELI_ORDER_DEPLOY || o->kind == HELI_ORDER_PICKUP) check_list(name, o->body.deploy, broken);
-    if (o->kind == HELI_ORDER_PATROL && o->body.patrol) check_list(name + " points", o->body.patrol->points, broken);
-}
-}  // namespace
-
-std::vector<std::string> mission::broken_lists() const {
-    std::vector<std::string> broken;
-    check_list("ground groups", groups, broken);
-    for (void *g : values(groups)) check_list("ground members", static_cast<group_record *>(g)->members, broken);
-    check_list("objects", objects, broken);
-    check_list("heli groups", heli_groups, broken);
-    for (void *value : values(heli_groups)) {
-        auto *g = static_cast<heli_group_record *>(value);
-        check_list("heli members", g->members, broken);
-        check_list("route", g->waypoints, broken);
-        check_order("in transit", g->in_transit, broken);
-        for (void *w : values(g->waypoints)) {
-            check_list("waypoint orders", static_cast<waypoint_record *>(w)->orders, broken);
-            for (void *o : values(static_cast<waypoint_record *>(w)->orders))
-                check_order("order", static_cast<heli_order_record *>(o), broken);
-        }
-    }
-    check_list("available", available, broken);
-    check_list("ingress", run->ingress, broken);
-    check_list("egress", run->egress, broken);
-    check_list("aircraft types", run->aircraft_types, broken);
-    check_list("ARSP locations", rally->arsp_locations, broken);
-    return broken;
 }
 
 // --- Fault points --------------------------------------------------------------------
@@ -550,9 +524,10 @@ outcome sweep_test::play(const flow &f, const fault_plan &plan, variation v) {
     if (out.hung) out.failures["hang"].push_back("the run did not end: " + std::to_string(out.log.size()) + " steps");
     for (const std::string &line : out.log)
         if (line.rfind("unexpected", 0) == 0) out.failures["unexpected window"].push_back(line);
-    out.state = m.snapshot();
+    std::vector<std::string> broken_lists;
+    out.state = m.snapshot(&broken_lists);
     out.state["result"] = std::to_string(result);
-    for (const std::string &b : m.broken_lists()) out.failures["broken list"].push_back(b);
+    for (const std::string &b : broken_lists) out.failures["broken list"].push_back(b);
     m.free(host);
     if (host.lists_out) out.failures["list not released"].push_back(std::to_string(host.lists_out) + " lists");
     host.lists_out = 0;
@@ -568,7 +543,7 @@ const outcome &sweep_test::oracle(size_t flow_index, const std::string &key, con
     auto found = oracles_.find({flow_index, key});
     if (found != oracles_.end()) return found->second;
     outcome run = play(all_flows()[flow_index], plan, std::move(v));
-    EXPECT_TRUE(run.failures.empty()) << all_flows()[flow_index].name << ", " << key;
+    EXPECT_TRUE(run.failures.empty()) << all_flows()[flow_index].name << ", " << key << "\n" << described(run);
     return oracles_[{flow_index, key}] = std::move(run);
 }
 
@@ -631,5 +606,12 @@ std::string differences(const record_bytes &a, const record_bytes &b) {
     }
     for (const auto &entry : b)
         if (!a.count(entry.first)) out += "  " + entry.first + "\n";
+    return out;
+}
+
+std::string described(const outcome &run) {
+    std::string out;
+    for (const auto &kind : run.failures) out += kind.first + ": " + kind.second.front() + "\n";
+    for (const std::string &line : run.log) out += "    " + line + "\n";
     return out;
 }

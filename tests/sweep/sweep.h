@@ -28,11 +28,10 @@ struct mission {
 
     void build(test_host &host);
     void free(test_host &host);
-    // Every record, list entry and body reachable from the roots, pointers left out.
-    record_bytes snapshot() const;
-    // Each list walked both ways: every node's next->prev and prev->next is
-    // itself, and both ways meet the same number of nodes.
-    std::vector<std::string> broken_lists() const;
+    // Every record, list entry and body reachable from the roots, pointers
+    // left out; each list on the way checked both ways, what is not whole
+    // reported into `broken`.
+    record_bytes snapshot(std::vector<std::string> *broken = nullptr) const;
 };
 
 // --- Fault points --------------------------------------------------------------------
@@ -117,3 +116,5 @@ private:
 
 // Where two end states differ, one key a line.
 std::string differences(const record_bytes &a, const record_bytes &b);
+// A run's failures, one kind a line with its first instance, then its steps.
+std::string described(const outcome &run);
