@@ -55,6 +55,17 @@ uintptr_t nth(const dlist_node *list, int n) {
 }
 uintptr_t arg(const void *p) { return reinterpret_cast<uintptr_t>(p); }
 
+// The arguments of each flow's request.
+using request_args = std::pair<uintptr_t, uintptr_t>;
+request_args the_placement(const mission &m) { return {arg(m.placement), 0}; }
+request_args the_objects(const mission &m) { return {arg(m.objects), 0}; }
+request_args the_groups(const mission &m) { return {arg(m.groups), 0}; }
+request_args sarge1_alone(const mission &m) { return {nth(m.groups, 1), 0}; }
+request_args the_heli_groups(const mission &m) { return {arg(m.heli_groups), arg(m.available)}; }
+request_args alpha_and_units(const mission &m) { return {nth(m.heli_groups, 0), arg(m.available)}; }
+request_args the_bombing_run(const mission &m) { return {arg(m.run), 0}; }
+request_args the_rally_point(const mission &m) { return {arg(m.rally), 0}; }
+
 std::vector<step> steps_of(std::initializer_list<std::vector<step>> parts) {
     std::vector<step> all;
     for (const std::vector<step> &part : parts) all.insert(all.end(), part.begin(), part.end());
@@ -77,8 +88,7 @@ std::vector<step> order_left(uint32_t kind, const char *dialog, const char *chos
 
 const std::vector<flow> &all_flows() {
     static const std::vector<flow> flows = {
-        {"create objects: type, reference, counts and axes, OK", REQUEST_CREATE_OBJECTS,
-         [](const mission &m) { return std::make_pair(arg(m.placement), uintptr_t(0)); },
+        {"create objects: type, reference, counts and axes, OK", REQUEST_CREATE_OBJECTS, the_placement,
          {
              {"create objects", "type Cultural", combo(IDC_CO_TYPE, "Cultural")},
              {"create objects", "Barn, 3 objects 12.5 m apart, 80 m out",
@@ -88,36 +98,30 @@ const std::vector<flow> &all_flows() {
               all({press(IDC_CO_AALIGN_Y), press(IDC_CO_ORIENT_X), press(IDC_CO_AACAMREL), press(IDC_CO_OCAMREL)})},
              {"create objects", "OK", ok},
          }},
-        {"create objects: a refused number, then the close box", REQUEST_CREATE_OBJECTS,
-         [](const mission &m) { return std::make_pair(arg(m.placement), uintptr_t(0)); },
+        {"create objects: a refused number, then the close box", REQUEST_CREATE_OBJECTS, the_placement,
          {
              {"create objects", "11 objects, OK", all({type(IDC_CO_NUMBER, "11"), ok})},
              {"create objects", "close box", close_box},
          }},
-        {"create objects: Cancel", REQUEST_CREATE_OBJECTS,
-         [](const mission &m) { return std::make_pair(arg(m.placement), uintptr_t(0)); },
+        {"create objects: Cancel", REQUEST_CREATE_OBJECTS, the_placement,
          {
              {"create objects", "type Cultural", combo(IDC_CO_TYPE, "Cultural")},
              {"create objects", "Cancel", cancel},
          }},
-        {"object names: a rename, then Cancel", REQUEST_OBJECT_NAMES,
-         [](const mission &m) { return std::make_pair(arg(m.objects), uintptr_t(0)); },
+        {"object names: a rename, then Cancel", REQUEST_OBJECT_NAMES, the_objects,
          {
              {"object names", "Edit Name on the second line", pick_at(IDC_ON_LIST, 1, IDC_ON_EDIT_NAME)},
              {"edit name", "Mill, OK", all({type(IDC_EN_NAME, "Mill"), ok})},
              {"object names", "Cancel", cancel},
          }},
-        {"object names: the close box", REQUEST_OBJECT_NAMES,
-         [](const mission &m) { return std::make_pair(arg(m.objects), uintptr_t(0)); },
+        {"object names: the close box", REQUEST_OBJECT_NAMES, the_objects,
          {{"object names", "close box", close_box}}},
-        {"group list: sarge0 removed, then the close box", REQUEST_GROUP_LIST,
-         [](const mission &m) { return std::make_pair(arg(m.groups), uintptr_t(0)); },
+        {"group list: sarge0 removed, then the close box", REQUEST_GROUP_LIST, the_groups,
          {
              {"group list", "Remove sarge0", pick(IDC_GL_GROUPS, "sarge0", IDC_GL_REMOVE)},
              {"group list", "close box", close_box},
          }},
-        {"object names: renames through Edit Name", REQUEST_OBJECT_NAMES,
-         [](const mission &m) { return std::make_pair(arg(m.objects), uintptr_t(0)); },
+        {"object names: renames through Edit Name", REQUEST_OBJECT_NAMES, the_objects,
          {
              {"object names", "Edit Name on the first line", pick_at(IDC_ON_LIST, 0, IDC_ON_EDIT_NAME)},
              {"edit name", "Hill42, OK", all({type(IDC_EN_NAME, "Hill42"), ok})},
@@ -128,7 +132,7 @@ const std::vector<flow> &all_flows() {
              {"object names", "OK", ok},
          }},
         {"group list: a group added through Group Composition, Group Orders, Orders and Sarge Order",
-         REQUEST_GROUP_LIST, [](const mission &m) { return std::make_pair(arg(m.groups), uintptr_t(0)); },
+         REQUEST_GROUP_LIST, the_groups,
          {
              {"group list", "Add", click(IDC_GL_ADD)},
              {"composition", "+, By Group, Target Player Only",
@@ -154,7 +158,7 @@ const std::vector<flow> &all_flows() {
              {"group list", "OK", ok},
          }},
         {"group list: sarge0's orders edited, inserted and removed, sarge1 removed, Cancel", REQUEST_GROUP_LIST,
-         [](const mission &m) { return std::make_pair(arg(m.groups), uintptr_t(0)); },
+         the_groups,
          {
              {"group list", "Edit sarge0", pick(IDC_GL_GROUPS, "sarge0", IDC_GL_EDIT)},
              {"composition", "<-Remove Tank2", pick(IDC_GC_MEMBERS, "Tank2 (tank_t80)", IDC_GC_REMOVE)},
@@ -190,8 +194,7 @@ const std::vector<flow> &all_flows() {
              {"composition", "Cancel", cancel},
              {"group list", "Cancel", cancel},
          }},
-        {"group composition: a group alone, every level closed unconfirmed", REQUEST_GROUP_COMPOSITION,
-         [](const mission &m) { return std::make_pair(nth(m.groups, 1), uintptr_t(0)); },
+        {"group composition: a group alone, every level closed unconfirmed", REQUEST_GROUP_COMPOSITION, sarge1_alone,
          {
              {"composition", "Add-> Jeep3", pick(IDC_GC_AVAILABLE, "Jeep3 (jeep)", IDC_GC_ADD)},
              {"composition", "Edit Orders", click(IDC_GC_EDIT_ORDERS)},
@@ -209,8 +212,7 @@ const std::vector<flow> &all_flows() {
              {"group orders", "Cancel", cancel},
              {"composition", "close box", close_box},
          }},
-        {"heli list: a group added with a route, orders and cargo", REQUEST_LIST_HELI_GROUPS,
-         [](const mission &m) { return std::make_pair(arg(m.heli_groups), arg(m.available)); },
+        {"heli list: a group added with a route, orders and cargo", REQUEST_LIST_HELI_GROUPS, the_heli_groups,
          {
              {"heli list", "Add", click(IDC_LHG_ADD)},
              {"heli group", "Add-> U14 and U15",
@@ -246,8 +248,7 @@ const std::vector<flow> &all_flows() {
              {"heli group", "OK", ok},
              {"heli list", "OK", ok},
          }},
-        {"heli list: Alpha edited down to every order dialog", REQUEST_LIST_HELI_GROUPS,
-         [](const mission &m) { return std::make_pair(arg(m.heli_groups), arg(m.available)); },
+        {"heli list: Alpha edited down to every order dialog", REQUEST_LIST_HELI_GROUPS, the_heli_groups,
          {
              {"heli list", "Edit Alpha", pick(IDC_LHG_GROUPS, "Alpha", IDC_LHG_EDIT)},
              {"heli group", "<-Remove U11", pick(IDC_HG_MEMBERS, "U11", IDC_HG_REMOVE)},
@@ -294,7 +295,7 @@ const std::vector<flow> &all_flows() {
              {"heli list", "Cancel", cancel},
          }},
         {"heli list: Bravo removed, then edits left unconfirmed at every level", REQUEST_LIST_HELI_GROUPS,
-         [](const mission &m) { return std::make_pair(arg(m.heli_groups), arg(m.available)); },
+         the_heli_groups,
          steps_of({
              {
                  {"heli list", "Remove Bravo", pick(IDC_LHG_GROUPS, "Bravo", IDC_LHG_REMOVE)},
@@ -335,8 +336,7 @@ const std::vector<flow> &all_flows() {
                  {"heli list", "close box", close_box},
              },
          })},
-        {"edit heli group: Alpha in place, its route and cargo confirmed", REQUEST_EDIT_HELI_GROUP,
-         [](const mission &m) { return std::make_pair(nth(m.heli_groups, 0), arg(m.available)); },
+        {"edit heli group: Alpha in place, its route and cargo confirmed", REQUEST_EDIT_HELI_GROUP, alpha_and_units,
          {
              {"heli group", "Add-> U14", pick(IDC_HG_AVAILABLE, "U14", IDC_HG_ADD)},
              {"heli group", "double-click U11 back", all({select(IDC_HG_MEMBERS, "U11"), double_click(IDC_HG_MEMBERS)})},
@@ -356,8 +356,7 @@ const std::vector<flow> &all_flows() {
              {"deploy", "OK", ok},
              {"heli group", "Alpha Two, OK", all({type(IDC_HG_NAME, "Alpha Two"), ok})},
          }},
-        {"bombing run: both routes edited, OK", REQUEST_BOMBING_RUN,
-         [](const mission &m) { return std::make_pair(arg(m.run), uintptr_t(0)); },
+        {"bombing run: both routes edited, OK", REQUEST_BOMBING_RUN, the_bombing_run,
          {
              {"bombing run", "<< Add WP2", pick(IDC_BR_MARKERS, "WP2", IDC_BR_INGRESS_ADD)},
              {"bombing run", "<< Insert WP3 first",
@@ -378,14 +377,12 @@ const std::vector<flow> &all_flows() {
               all({type(IDC_BR_NAME, "Night Strike"), type(IDC_BR_TARGET_X, "1200"),
                    combo(IDC_BR_AIRCRAFT_TYPE, "Tornado"), combo(IDC_BR_AIRCRAFT_COUNT, "4"), ok})},
          }},
-        {"bombing run: an Add, then the close box", REQUEST_BOMBING_RUN,
-         [](const mission &m) { return std::make_pair(arg(m.run), uintptr_t(0)); },
+        {"bombing run: an Add, then the close box", REQUEST_BOMBING_RUN, the_bombing_run,
          {
              {"bombing run", "Add >> WP3", pick(IDC_BR_MARKERS, "WP3", IDC_BR_EGRESS_ADD)},
              {"bombing run", "close box", close_box},
          }},
-        {"rally point: locations added, updated and deleted, OK", REQUEST_RALLY_POINT,
-         [](const mission &m) { return std::make_pair(arg(m.rally), uintptr_t(0)); },
+        {"rally point: locations added, updated and deleted, OK", REQUEST_RALLY_POINT, the_rally_point,
          {
              {"rally point", "<< Add", click(IDC_RP_ADD)},
              {"rally point", "<< Add", click(IDC_RP_ADD)},
@@ -396,20 +393,17 @@ const std::vector<flow> &all_flows() {
              {"rally point", "Rally North at 110, -30, OK",
               all({type(IDC_RP_NAME, "Rally North"), type(IDC_RP_X, "110"), type(IDC_RP_Z, "-30"), ok})},
          }},
-        {"bombing run: an Insert, then Cancel", REQUEST_BOMBING_RUN,
-         [](const mission &m) { return std::make_pair(arg(m.run), uintptr_t(0)); },
+        {"bombing run: an Insert, then Cancel", REQUEST_BOMBING_RUN, the_bombing_run,
          {
              {"bombing run", "<< Insert WP2, nothing selected", pick(IDC_BR_MARKERS, "WP2", IDC_BR_INGRESS_INSERT)},
              {"bombing run", "Cancel", cancel},
          }},
-        {"rally point: a Delete, then the close box", REQUEST_RALLY_POINT,
-         [](const mission &m) { return std::make_pair(arg(m.rally), uintptr_t(0)); },
+        {"rally point: a Delete, then the close box", REQUEST_RALLY_POINT, the_rally_point,
          {
              {"rally point", "<< Delete the first", pick_at(IDC_RP_ARSP, 0, IDC_RP_DELETE)},
              {"rally point", "close box", close_box},
          }},
-        {"rally point: an Add, then Cancel", REQUEST_RALLY_POINT,
-         [](const mission &m) { return std::make_pair(arg(m.rally), uintptr_t(0)); },
+        {"rally point: an Add, then Cancel", REQUEST_RALLY_POINT, the_rally_point,
          {
              {"rally point", "<< Add", click(IDC_RP_ADD)},
              {"rally point", "Cancel", cancel},
