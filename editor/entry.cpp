@@ -4,6 +4,7 @@
 #include "editor/editor.h"
 #include "editor/modules.h"
 #include "editor/requests.h"
+#include "util/modal.h"
 #include "util/settings.h"
 #include "windows/cursor.h"
 #include "windows/status.h"
@@ -35,6 +36,12 @@ int EDITOR_CDECL editor_init(editor_setup setup) {
 
 int EDITOR_CDECL editor_tidyup(void) {
     if (!editor_started) return 0;
+    // Asked for from inside a dialog (a host timer): the editor still shuts
+    // down, and its open dialogs end as if cancelled, so that nothing they
+    // hold is committed into the host's records once the host believes the
+    // editor gone. Their working copies go back as each one unwinds, before
+    // the request that opened it returns.
+    end_open_dialogs();
     const editor_setup &stored = editor_stored_setup();
     settings_save_position(stored.settings_file, stored.settings_folder, SETTINGS_MAIN,
                            stored.main_window);

@@ -1,10 +1,24 @@
 #include "util/modal.h"
 
+#include <vector>
+
 #include "editor/editor.h"
+
+namespace {
+// The dialogs on screen, outermost first: dialogs only nest, so each
+// session's dialog is above every dialog opened before it.
+struct open_dialog {
+    HWND window;
+    const dialog_class *dialog;
+    bool ended;
+};
+std::vector<open_dialog> open_dialogs;
+}  // namespace
 
 INT_PTR dialog_message(const dialog_class &dialog, HWND window, UINT message, WPARAM wparam) {
     switch (message) {
     case WM_INITDIALOG:
+        open_dialogs.push_back({window, &dialog, false});
         dialog.on_init(window);
         return dialog.init_result;
     case WM_COMMAND: {
@@ -43,6 +57,17 @@ modal_session::~modal_session() {
 
 int modal_session::run(int template_id, HWND owner, DLGPROC proc) {
     if (!kind_) return 0;
+    const size_t depth = open_dialogs.size();
     INT_PTR result = DialogBoxParamA(editor_instance(), MAKEINTRESOURCEA(template_id), owner, proc, 0);
+    open_dialogs.resize(depth);
     return result == END_CONFIRMED ? 1 : 0;
+}
+
+void end_open_dialogs() {
+    for (auto open = open_dialogs.rbegin(); open != open_dialogs.rend(); ++open) {
+        if (open->ended) continue;
+        open->ended = true;
+        if (open->dialog->on_cancel) open->dialog->on_cancel(open->window);
+        EndDialog(open->window, END_UNCONFIRMED);
+    }
 }

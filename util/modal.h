@@ -66,3 +66,9 @@ public:
 private:
     module_flag *kind_;
 };
+
+// Ends every dialog that is open, the innermost first, the way Cancel ends
+// it (its on_cancel, then the end with 0), whatever its own commands would
+// say: the editor is shutting down under them. Each opening function then
+// returns 0 and frees its working copies as its dialog unwinds.
+void end_open_dialogs();
