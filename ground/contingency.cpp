@@ -116,8 +116,7 @@ void refresh_order(HWND dialog) {
     enable_controls(dialog, {IDC_ORDER_DESTINATION_LABEL, IDC_ORDER_DESTINATION}, with_destination);
     if (with_destination) {
         HWND destination = GetDlgItem(dialog, IDC_ORDER_DESTINATION);
-        fill_destination_combo(destination);
-        select_combo_field(destination, order.destination);
+        fill_destination_combo(destination, order.destination);
     }
 
     bool with_formation = uses_formation(t);
@@ -128,8 +127,7 @@ void refresh_order(HWND dialog) {
         enable_control(dialog, IDC_CT_AMOUNT, true);
         set_item_text_f(dialog, IDC_CT_AMOUNT, "%f", static_cast<double>(order.formation_rotation));
         HWND formation = GetDlgItem(dialog, IDC_ORDER_FORMATION);
-        fill_formation_combo(formation);
-        select_combo_field(formation, order.formation);
+        fill_formation_combo(formation, order.formation);
     }
     if (uses_duration(t)) {
         enable_control(dialog, IDC_CT_AMOUNT_LABEL, true);
@@ -139,11 +137,8 @@ void refresh_order(HWND dialog) {
     }
 
     HWND target = GetDlgItem(dialog, IDC_ORDER_MESSAGE_TARGET);
-    fill_message_target_combo(target);
-    if (order.message_target[0]) {
-        select_combo_field(target, order.message_target);
-        show_field(dialog, IDC_ORDER_MESSAGE, order.message);
-    }
+    fill_message_target_combo(target, order.message_target);
+    if (order.message_target[0]) show_field(dialog, IDC_ORDER_MESSAGE, order.message);
 }
 
 void on_init(HWND dialog) {

@@ -22,8 +22,9 @@ const char none_entry[] = "NONE";
 
 // Fills a combo with the names of a host list. Names longer than 31
 // characters are cut, so every entry fits the 32-byte record fields; null
-// names are left out.
-int fill_names(HWND combo, host_list_fn list_op, bool with_none) {
+// names are left out. The line holding `selected` is found among the lines
+// just made rather than read back from the control, one message a line.
+int fill_names(HWND combo, host_list_fn list_op, bool with_none, const char (&selected)[32]) {
     SendMessageA(combo, CB_RESETCONTENT, 0, 0);
     held_list names(list_op);
     if (!names) return 0;
@@ -37,9 +38,13 @@ int fill_names(HWND combo, host_list_fn list_op, bool with_none) {
             lines.add(entry, static_cast<LPARAM>(node->value));
         }
         if (with_none) lines.add(none_entry, 0);
-        // "NONE" is the last line when there is one; else the first is selected.
         const std::vector<LRESULT> &indices = lines.commit();
-        SendMessageA(combo, CB_SETCURSEL, with_none ? indices.back() : 0, 0);
+        // "NONE" (the last line) stands for an empty target; any other name
+        // missing from the list selects the first line.
+        char wanted[32];
+        copy_field(wanted, selected);
+        LRESULT line = with_none && !wanted[0] ? indices.back() : lines.index_of(wanted);
+        SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(line >= 0 ? line : 0), 0);
     }
     if (!names.release()) {
         SendMessageA(combo, CB_RESETCONTENT, 0, 0);
@@ -61,14 +66,11 @@ void on_init(HWND dialog) {
     HWND destination = GetDlgItem(dialog, IDC_ORDER_DESTINATION);
     HWND formation = GetDlgItem(dialog, IDC_ORDER_FORMATION);
     if (uses_formation(type)) {
-        fill_formation_combo(formation);
-        select_combo_field(formation, order.formation);
-        fill_destination_combo(destination);
-        select_combo_field(destination, order.destination);
+        fill_formation_combo(formation, order.formation);
+        fill_destination_combo(destination, order.destination);
         set_item_text_f(dialog, IDC_SO_ROTATION, "%f", static_cast<double>(order.formation_rotation));
     } else if (type == SARGE_ORDER_BARRAGE) {
-        fill_destination_combo(destination);
-        select_combo_field(destination, order.destination);
+        fill_destination_combo(destination, order.destination);
         enable_controls(dialog, {IDC_ORDER_FORMATION_LABEL, IDC_ORDER_FORMATION}, false);
     } else {
         enable_controls(dialog,
@@ -78,11 +80,8 @@ void on_init(HWND dialog) {
     }
 
     HWND target = GetDlgItem(dialog, IDC_ORDER_MESSAGE_TARGET);
-    fill_message_target_combo(target);
-    if (order.message_target[0]) {
-        select_combo_field(target, order.message_target);
-        show_field(dialog, IDC_ORDER_MESSAGE, order.message);
-    }
+    fill_message_target_combo(target, order.message_target);
+    if (order.message_target[0]) show_field(dialog, IDC_ORDER_MESSAGE, order.message);
 
     // The rotation is shown for information only; this dialog always stores 0.
     enable_controls(dialog, {IDC_SO_ROTATION_LABEL, IDC_SO_ROTATION}, false);
@@ -119,9 +118,15 @@ int edit_sarge_order(HWND owner, sarge_order_record *order) {
     return session.run(IDD_SARGE_ORDER, owner, dialog_proc<sarge_order_dialog>);
 }
 
-int fill_formation_combo(HWND combo) { return fill_names(combo, host().host_formation_list, false); }
-int fill_destination_combo(HWND combo) { return fill_names(combo, host().host_marker_list, false); }
-int fill_message_target_combo(HWND combo) { return fill_names(combo, host().host_message_target_list, true); }
+int fill_formation_combo(HWND combo, const char (&selected)[32]) {
+    return fill_names(combo, host().host_formation_list, false, selected);
+}
+int fill_destination_combo(HWND combo, const char (&selected)[32]) {
+    return fill_names(combo, host().host_marker_list, false, selected);
+}
+int fill_message_target_combo(HWND combo, const char (&selected)[32]) {
+    return fill_names(combo, host().host_message_target_list, true, selected);
+}
 
 void read_message_and_target(HWND dialog, sarge_order_record &order) {
     char target[32] = "";

@@ -13,12 +13,14 @@ int sarge_order_tidyup();
 // record changes), 0 on Cancel or when the module is not started.
 int edit_sarge_order(HWND owner, sarge_order_record *order);
 
-// Fill a combo from a host name list, entry 0 selected. 1 on success; 0 with
-// the combo left empty when the host list cannot be acquired or released.
-int fill_formation_combo(HWND combo);
-int fill_destination_combo(HWND combo);
-// As above, then one more entry "NONE" (item data 0), which is selected.
-int fill_message_target_combo(HWND combo);
+// Fill a combo from a host name list and select the line holding the name
+// in `selected` (a record's field), else line 0. 1 on success; 0 with the
+// combo left empty when the host list cannot be acquired or released.
+int fill_formation_combo(HWND combo, const char (&selected)[32]);
+int fill_destination_combo(HWND combo, const char (&selected)[32]);
+// As above, with one more line "NONE" (item data 0), which is selected when
+// `selected` is empty.
+int fill_message_target_combo(HWND combo, const char (&selected)[32]);
 
 // Stores the message and its target only together: when the selected target
 // is not "NONE" and the message edit is not empty.

@@ -85,30 +85,6 @@ int combo_select_data(HWND combo, LPARAM data) {
     return -1;
 }
 
-int select_combo_string(HWND combo, const char *text) {
-    if (!text) return -1;
-    LRESULT count = SendMessageA(combo, CB_GETCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        // Longer entries cannot be read into the buffer, and cannot equal a name.
-        LRESULT length = SendMessageA(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(i), 0);
-        if (length < 0 || length > 31) continue;
-        char entry[32] = "";
-        SendMessageA(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(entry));
-        entry[31] = '\0';
-        if (std::strcmp(entry, text) == 0) {
-            SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(i), 0);
-            return static_cast<int>(i);
-        }
-    }
-    return -1;
-}
-
-void select_combo_field(HWND combo, const char *field, size_t size) {
-    char text[64];
-    copy_field(text, sizeof text, field, size);
-    if (select_combo_string(combo, text) < 0) SendMessageA(combo, CB_SETCURSEL, 0, 0);
-}
-
 bool read_combo_selection(HWND combo, char *field, size_t size) {
     LRESULT selected = SendMessageA(combo, CB_GETCURSEL, 0, 0);
     if (selected < 0) return false;

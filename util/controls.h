@@ -63,15 +63,6 @@ T *list_selected(HWND list) {
 // selection change) when no line has it.
 int combo_select_data(HWND combo, LPARAM data);
 
-// Selects the first entry whose text equals `text` exactly (case-sensitive),
-// reading entries of at most 31 characters; its index, or -1 when none does.
-int select_combo_string(HWND combo, const char *text);
-// Selects the entry equal to a fixed-size field's text, else entry 0.
-void select_combo_field(HWND combo, const char *field, size_t size);
-template <size_t N>
-inline void select_combo_field(HWND combo, const char (&field)[N]) {
-    select_combo_field(combo, field, N);
-}
 // Copies the selected entry's text into a field (cut to fit); false, with
 // the field untouched, when nothing is selected.
 bool read_combo_selection(HWND combo, char *field, size_t size);

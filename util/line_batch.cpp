@@ -66,6 +66,7 @@ const std::vector<LRESULT> &line_batch::commit() {
     // Lines in the control's own order are put at its end, so that it
     // neither searches nor moves anything; otherwise it places them itself.
     const bool in_order = !order.empty();
+    placed_ = in_order || !sorted_;
     if (!in_order) {
         order.resize(lines_.size());
         std::iota(order.begin(), order.end(), size_t{0});
@@ -84,4 +85,30 @@ const std::vector<LRESULT> &line_batch::commit() {
     SendMessageA(control_, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(control_, nullptr, TRUE);
     return indices_;
+}
+
+LRESULT line_batch::index_of(const char *text) const {
+    if (!placed_) {
+        // Lines that went in one by one into a sorted control have moved
+        // since they were placed: ask the control.
+        const LRESULT count = SendMessageA(control_, combo_ ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
+        const size_t length = std::strlen(text);
+        std::string shown;
+        for (LRESULT i = 0; i < count; ++i) {
+            const LRESULT got = SendMessageA(control_, combo_ ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, static_cast<WPARAM>(i), 0);
+            if (got != static_cast<LRESULT>(length)) continue;
+            shown.assign(length + 1, '\0');
+            SendMessageA(control_, combo_ ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
+                         reinterpret_cast<LPARAM>(&shown[0]));
+            if (std::strcmp(shown.c_str(), text) == 0) return i;
+        }
+        return -1;
+    }
+    LRESULT first = -1;
+    for (size_t i = 0; i < lines_.size() && i < indices_.size(); ++i) {
+        const LRESULT index = indices_[i];
+        if (index < 0 || (first >= 0 && index >= first)) continue;
+        if (std::strcmp(texts_.c_str() + lines_[i].text, text) == 0) first = index;
+    }
+    return first;
 }

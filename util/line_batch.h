@@ -28,8 +28,13 @@ public:
     size_t size() const { return lines_.size(); }
 
     // Hands the lines over (once). For a control that does not sort, the
-    // index of each line in the order added (or the control's error value).
+    // index of each line in the order added (or the control's error value);
+    // for one that does, the same unless two lines ranked equal.
     const std::vector<LRESULT> &commit();
+    // After commit: the control's index of its first line whose text is
+    // exactly `text` (case-sensitive), or -1. Found in the batch's own copy
+    // of the lines, so no line is read back from the control.
+    LRESULT index_of(const char *text) const;
 
 private:
     struct line {
@@ -43,6 +48,7 @@ private:
     bool combo_ = false;
     bool sorted_ = false;
     bool committed_ = false;
+    bool placed_ = true;  // every line stayed at the index it went in at
     std::string texts_;  // every line's text and its NUL, one after another
     std::vector<line> lines_;
     std::vector<LRESULT> indices_;

@@ -1,6 +1,7 @@
 // A batch fill leaves a control exactly as a line-by-line fill does: the
 // same lines in the same order with the same item data, for sorted and
-// unsorted list and combo boxes, ties and case variants included.
+// unsorted list and combo boxes, ties and case variants included; and it
+// finds a line by its exact text where the control shows it.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -60,8 +61,19 @@ TEST(line_batch, fills_as_a_line_by_line_fill_does) {
                     lines.add(input[i].c_str(), static_cast<LPARAM>(i + 100));
                 }
                 // An unsorted control reports where each line went.
+                const std::vector<LRESULT> &placed = lines.commit();
                 if (!kind.sorted) {
-                    EXPECT_EQ(lines.commit(), naive_indices);
+                    EXPECT_EQ(placed, naive_indices);
+                }
+                // A text is found at the first line showing exactly it.
+                const std::vector<shown_line> shown = contents(batch, kind.combo);
+                std::vector<std::string> wanted = input;
+                wanted.push_back("missing");
+                for (const std::string &text : wanted) {
+                    LRESULT first = -1;
+                    for (size_t i = 0; i < shown.size() && first < 0; ++i)
+                        if (shown[i].text == text) first = static_cast<LRESULT>(i);
+                    EXPECT_EQ(lines.index_of(text.c_str()), first) << text;
                 }
             }
             EXPECT_EQ(contents(batch, kind.combo), contents(naive, kind.combo))
