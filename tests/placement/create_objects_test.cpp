@@ -10,7 +10,7 @@
 #include "placement/create_objects.h"
 #include "resources/placement_ids.h"
 #include "tests/support/shown.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 
 namespace {
 const char *const title = "Create New Objects";
