@@ -20,25 +20,3 @@ protected:
 
 // Fails the current test with the driver's failures, if any.
 #define EXPECT_DRIVER_OK(driver) EXPECT_TRUE((driver).ok()) << (driver).failures()
-
-// Runs `call`, a host request made from inside a driver step. The busy driver
-// cannot drive a dialog that the call opens, so such a dialog is cancelled
-// after a second and the answer is -1: a request that should be refused fails
-// instead of hanging.
-inline bool &nested_dialog_cancelled() {
-    static bool cancelled = false;
-    return cancelled;
-}
-inline void CALLBACK cancel_nested_dialog(HWND, UINT, UINT_PTR timer, DWORD) {
-    KillTimer(nullptr, timer);
-    nested_dialog_cancelled() = true;
-    EndDialog(GetActiveWindow(), IDCANCEL);
-}
-template <class F>
-int nested_call(F call) {
-    nested_dialog_cancelled() = false;
-    UINT_PTR timer = SetTimer(nullptr, 0, 1000, cancel_nested_dialog);
-    const int result = call();
-    KillTimer(nullptr, timer);
-    return nested_dialog_cancelled() ? -1 : result;
-}
