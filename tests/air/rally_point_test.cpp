@@ -88,8 +88,8 @@ TEST_F(rally_point_test, update_needs_both_numbers_and_nothing_opens_without_a_r
     lines seen;
     EXPECT_EQ(1, edit({noting(seen, arsp, update("5", "nan", 0)),
                        noting(seen, arsp, update("", "5", 0)),  // the list not even refilled
-                       press(IDOK)}));
-    EXPECT_EQ(seen, (lines{">   1.0    3.0|5,nan", ">   1.0    3.0|,5"}));
+                       noting(seen, arsp, press(IDOK))}));
+    EXPECT_EQ(seen, (lines{">   1.0    3.0|   1.0,   3.0", ">   1.0    3.0|5,nan", ">   1.0    3.0|,5"}));
     EXPECT_EQ(entries_of<arsp_location>(point.arsp_locations), bytes_of<arsp_location>({{1, 2, 3}}));
     expect_refused(REQUEST_RALLY_POINT, edit_rally_point, rally_point_tidyup, rally_point_start, point);
 }
