@@ -7,7 +7,8 @@ set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
 set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
 add_subdirectory(${GTEST_SOURCE_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 
-add_library(test_support STATIC tests/support/test_host.cpp tests/support/test_main.cpp)
+add_library(test_support STATIC host/test_host.cpp host/sweep_player.cpp tests/support/editor_test.cpp
+    tests/support/test_main.cpp)
 target_include_directories(test_support PUBLIC ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR})
 target_compile_definitions(test_support PUBLIC EDITOR_IMPLEMENTATION WIN32_LEAN_AND_MEAN)
 target_link_libraries(test_support PUBLIC host_support gtest)

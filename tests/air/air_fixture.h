@@ -71,13 +71,6 @@ protected:
         for (T *entry : dlist_values<T>(list)) all += bytes_of({*entry});
         return all;
     }
-    // First makes the host's allocator grant `blocks` more (-1: all).
-    step failing(int blocks, step next) {
-        return [this, blocks, next](HWND dlg) {
-            host.memory.fail_after = blocks;
-            next(dlg);
-        };
-    }
     // No dialog and no mark for a null record, nor while the module or the editor is stopped.
     template <class R>
     void expect_refused(int request, int (*open)(R *), int (*stop)(), int (*start)(), R &record) {

@@ -117,7 +117,7 @@ TEST_F(bombing_run_test, only_ok_stores_the_numbers_each_by_the_lenient_rule) {
 
 // The stored type is searched from item 1 onward, item 0 last, by a prefix
 // without regard to case; a name too long for the field is not offered.
-TEST_F(bombing_run_test, aircraft_type_search_and_count_selection) {
+TEST_F(bombing_run_test, aircraft_type_search_and_count_selection_and_no_dialog_without_a_record) {
     const lines types = {"Harrier", "A-10B", "A-10", std::string(32, 'T')};
     const struct {
         lines types;  // empty: a null list
@@ -139,24 +139,5 @@ TEST_F(bombing_run_test, aircraft_type_search_and_count_selection) {
         }}));
         EXPECT_EQ(run.aircraft_type + std::to_string(run.aircraft_count), c.kept + std::to_string(c.count));
     }
-}
-
-TEST_F(bombing_run_test, hosts_that_fail_leave_routes_whole_and_nothing_leaks) {
-    const std::string ingress = entries_of<bombing_waypoint>(run.ingress);
-    // A marker list the host will not build, or will not take back: nothing to add.
-    for (bool refuse_release : {false, true}) {
-        host.refuse_acquire = !refuse_release;
-        host.refuse_release = refuse_release;
-        EXPECT_EQ(1, edit({route(IDC_BR_INGRESS_ADD), route(IDC_BR_INGRESS_INSERT, IDC_BR_INGRESS, 0), press(IDOK)}));
-    }
-    host.refuse_acquire = host.refuse_release = false;
-    // Out of memory for the waypoint (0 more blocks), or for its node (1), on either way in.
-    EXPECT_EQ(1, edit({failing(0, route(IDC_BR_INGRESS_ADD, 0, 0, "LZ")), failing(1, route(IDC_BR_INGRESS_ADD)),
-                       failing(1, route(IDC_BR_INGRESS_INSERT, IDC_BR_INGRESS, 1)), failing(-1, [&](HWND dlg) {
-                           // Neither a second opening nor a host request opens another meanwhile.
-                           EXPECT_EQ(nested_call([&] { return edit_bombing_run(&run); }), 0);
-                           ui_command(dlg, IDOK);
-                       })}));
-    EXPECT_EQ(entries_of<bombing_waypoint>(run.ingress), ingress);
     expect_refused(REQUEST_BOMBING_RUN, edit_bombing_run, bombing_run_tidyup, bombing_run_start, run);
 }

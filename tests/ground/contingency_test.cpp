@@ -109,23 +109,11 @@ TEST_F(contingency_test, order_type_switches_reload_the_section_and_store_its_fi
                            "Under Fire,[],[],,Defend,[Formation Rotation (DEGS)],[90.000000],[WP2],[Column]"}));
 }
 
-TEST_F(contingency_test, refused_lists_and_unknown_types_leave_fields_alone) {
-    host.refuse_acquire = true;
+TEST_F(contingency_test, unknown_triggers_and_types_leave_fields_alone) {
     r.trigger = 9;
     r.survivors = 5;
-    r.order.type = SARGE_ORDER_MARCH;
-    copy_text(r.order.destination, "WP9");
-    copy_text(r.order.formation, "Box");
-    EXPECT_EQ(edit({[&](HWND dlg) {
-        for (int id : {IDC_ORDER_DESTINATION, IDC_ORDER_FORMATION, IDC_ORDER_MESSAGE_TARGET})
-            EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
-        press_ok(dlg);
-    }}), 1);
-    EXPECT_EQ(std::string(r.order.destination) + r.order.formation, "WP9Box");
-    EXPECT_TRUE(r.trigger == 9 && r.survivors == 5);
-    host.refuse_acquire = false;
     r.order.type = 1;  // no name: shown as Halt, without an amount, and kept
     EXPECT_EQ(edit({press_ok}), 1);
-    EXPECT_EQ(r.order.type, 1);
-    EXPECT_EQ(seen, (lines{",[],[],,March,Formation Rotation (DEGS),0.000000,,", ",[],[],,Halt,[Duration (Secs)],[],[],[]"}));
+    EXPECT_TRUE(r.trigger == 9 && r.survivors == 5 && r.order.type == 1);
+    EXPECT_EQ(seen, (lines{",[],[],,Halt,[Duration (Secs)],[],[],[]"}));
 }

@@ -11,7 +11,7 @@
 #include "editor/editor.h"
 #include "resources/ground_ids.h"
 #include "tests/support/shown.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 #include "util/dlist.h"
 #include "util/text.h"
 

@@ -59,13 +59,10 @@ TEST_F(object_names_test, lines_sort_as_text_and_a_rename_is_cut_and_stays_after
 
 // An unchanged name is taken without asking the host; a used one is refused
 // with a message and the old one kept; Cancel keeps it too; an empty one is
-// taken. A second list or Edit Name asked for from inside is refused, and
-// the open Edit Name still writes its own field.
-TEST_F(object_names_test, edit_name_rules_and_nested_requests) {
+// taken.
+TEST_F(object_names_test, edit_name_rules) {
     unit_entry *e = add(4, "alpha", "tank");
     host.existing_names = {"alpha", "bravo"};
-    char other[32] = "beta";
-    int nested_edit = -1, nested_list = -1;
     std::string box_text;
     lines shown_after_refusal;
     ui_driver d;
@@ -76,8 +73,6 @@ TEST_F(object_names_test, edit_name_rules_and_nested_requests) {
     rename(d, "zulu", IDCANCEL);
     d.then("Dialog", [](HWND dlg) { ui_list_select_index(dlg, IDC_ON_LIST, 0); ui_command(dlg, IDC_ON_EDIT_NAME); });
     d.then("", [&](HWND dlg) {
-        nested_edit = nested_call([&] { return edit_name(host.main_window, other); });
-        nested_list = nested_call([&] { return editor_window(REQUEST_OBJECT_NAMES, arg(list), 0); });
         ui_set_text(dlg, IDC_EN_NAME, "");
         press_ok(dlg);
     });
@@ -85,8 +80,5 @@ TEST_F(object_names_test, edit_name_rules_and_nested_requests) {
     EXPECT_EQ(request(d), 1);
     EXPECT_EQ(box_text, "Name Already Exists");
     EXPECT_EQ(shown_after_refusal, (lines{"4 : alpha  (tank)"}));
-    EXPECT_EQ(nested_edit, 0);
-    EXPECT_EQ(nested_list, 0);
     EXPECT_STREQ(e->name, "");
-    EXPECT_STREQ(other, "beta");
 }

@@ -1,5 +1,5 @@
 // Sarge Order: the fields each type offers and stores, the message pair, and
-// host lists that are refused or hold stale names.
+// host lists that hold stale names or are not taken back.
 #include "ground/sarge_order.h"
 #include "tests/ground/group_fixture.h"
 
@@ -115,21 +115,9 @@ TEST_F(sarge_order_test, message_and_target_are_stored_only_together_and_cancel_
     EXPECT_STREQ(r.message_target, "HQ");
 }
 
-TEST_F(sarge_order_test, refused_host_lists_leave_combos_empty_and_fields_alone) {
-    host.refuse_acquire = true;
+// A list the host will not take back is shown empty although its names were read.
+TEST_F(sarge_order_test, a_refused_release_empties_its_combo_and_keeps_the_field) {
     sarge_order_record r = make_order(SARGE_ORDER_MARCH);
-    copy_text(r.message_target, "HQ");
-    copy_text(r.message, "old");
-    EXPECT_EQ(1, edit(r, {[&](HWND dlg) {
-        for (int id : {IDC_ORDER_FORMATION, IDC_ORDER_DESTINATION, IDC_ORDER_MESSAGE_TARGET})
-            EXPECT_TRUE(ui_combo_items(dlg, id).empty()) << id;
-        ui_set_text(dlg, IDC_ORDER_MESSAGE, "new");
-        press_ok(dlg);
-    }}));
-    EXPECT_EQ(std::string(r.formation) + r.destination + r.message, "WedgeWP2old");
-
-    // A failed release empties the combo although the names were read.
-    host.refuse_acquire = false;
     host.refuse_only = &host.markers;
     host.refuse_release = true;
     lines targets{"x"};
@@ -141,5 +129,4 @@ TEST_F(sarge_order_test, refused_host_lists_leave_combos_empty_and_fields_alone)
     }}));
     EXPECT_EQ(targets, (lines{"HQ", "Alpha", "NONE"}));
     EXPECT_STREQ(r.destination, "WP2");
-    EXPECT_EQ(host.refused_releases.size(), 1u);
 }

@@ -60,23 +60,6 @@ TEST_F(heli_group_test, units_move_by_id_as_fresh_entries_and_cancel_keeps_the_m
     EXPECT_EQ(std::string(g->name) + "," + std::to_string(g->rally_point_id), "Group0,202");
 }
 
-TEST_F(heli_group_test, a_move_the_host_cannot_allocate_for_moves_nothing) {
-    heli_group_record *g = add_group("Group0", {7});
-    const std::vector<void *> units = values(available), members = values(g->members);
-    // The selection buffer, the list that gathers the fresh entries, then an
-    // entry and a node per unit: failing any of them, both lists stay whole.
-    std::vector<step> steps;
-    for (int granted = 0; granted <= 6; ++granted)
-        steps.push_back([&, granted](HWND dlg) {
-            EXPECT_TRUE(values(available) == units && values(g->members) == members) << granted - 1;
-            host.memory.fail_after = granted < 6 ? granted : -1;
-            select_lines(IDC_HG_AVAILABLE, {1, 2}, press(IDC_HG_ADD))(dlg);
-        });
-    steps.push_back(press(IDOK));
-    EXPECT_EQ(edit(g, steps), 1);
-    EXPECT_EQ(ids(g->members), "3,2,7");
-}
-
 // The name is cut to its field; a rally point the host does not list, or
 // a refused list, shows none and keeps the stored id.
 TEST_F(heli_group_test, ok_stores_the_name_cut_to_fit_and_keeps_a_rally_point_it_cannot_show) {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "editor/editor.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 
 class hostile_test : public editor_test {
 protected:

@@ -10,7 +10,7 @@
 #include "placement/create_objects.h"
 #include "resources/placement_ids.h"
 #include "tests/support/shown.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 
 namespace {
 const char *const title = "Create New Objects";
@@ -90,27 +90,16 @@ TEST_F(create_objects_test, what_the_preset_and_enabled_bits_show) {
         ui_command(dlg, IDCANCEL);
     }), 0);
     EXPECT_STREQ(create_objects_remembered().ref_obj, "tank2");  // cancelled, yet taken up on opening
-    // A preset name not terminated within its field is remembered cut to 63.
-    record.preset = CO_REF_OBJ;
-    std::memset(record.ref_obj, 'r', sizeof record.ref_obj);
-    EXPECT_EQ(open([](HWND dlg) { ui_command(dlg, IDCANCEL); }), 0);
-    EXPECT_EQ(std::string(create_objects_remembered().ref_obj), std::string(63, 'r'));
 
-    // A host request from inside is refused: a second dialog would overwrite
-    // the working copy that the first one writes back. A preset alone does
-    // not show box 1025; a number not the designer's to change does not grey
-    // the distance.
-    create_objects_record inner{0, 0, 5, "inner", 7, 0, 0, 0, 0, 0, 0};
-    int nested = -1;
+    // A preset alone does not show box 1025; a number not the designer's to
+    // change does not grey the distance.
     record = {CO_AACAMREL | CO_OCAMREL | CO_NUMBER | CO_TYPE, CO_OBJ_DIST, OBJECT_MAN, "", 1, 0, 0, 0, 1, 0, 1};
     EXPECT_EQ(open([&](HWND dlg) {
-        nested = nested_call([&] { return editor_window(REQUEST_CREATE_OBJECTS, reinterpret_cast<uintptr_t>(&inner), 0); });
         EXPECT_EQ(screen(dlg), "[Man],[],[1],50.000,[],[o],[o],[o],[x],[o],[o],[o],[o]");
         ui_set_text(dlg, IDC_CO_OBJ_DIST, "8");
         ui_command(dlg, IDOK);
     }), 1);
     EXPECT_TRUE(record.obj_dist == 8.0f && record.type == OBJECT_MAN);  // the type, not enabled, kept
-    EXPECT_TRUE(nested == 0 && inner.number == 7u);
 }
 
 // One session: validation runs in order, type first; each field's bad texts
@@ -245,23 +234,18 @@ TEST_F(create_objects_test, choices_survive_tidy_up_and_restart_through_the_sett
 // Each failure to fill the reference box shows its message when the dialog
 // opens and again when the type is chosen, and leaves the box empty, so OK
 // is refused.
-TEST_F(create_objects_test, reference_list_failures_leave_it_empty) {
+TEST_F(create_objects_test, no_reference_list_for_the_type_refuses_ok) {
     ASSERT_EQ(start_editor(), 1);
     const char *const none = "No reference object available!";
     const struct {
         uint32_t enabled;
         int32_t type;
-        bool refuse_acquire, refuse_release;
         const char *message;
-    } scenarios[] = {{CO_REF_OBJ, OBJECT_WORLD, false, false, "Invalid type of objects!"},  // no type offered
-                     {CO_TYPE | CO_REF_OBJ, OBJECT_RALLY_POINT, false, false, none},         // nothing for the type
-                     {CO_TYPE | CO_REF_OBJ, OBJECT_WORLD, true, false, none},
-                     {CO_TYPE | CO_REF_OBJ, OBJECT_WORLD, false, true, none}};
+    } scenarios[] = {{CO_REF_OBJ, OBJECT_WORLD, "Invalid type of objects!"},  // no type offered
+                     {CO_TYPE | CO_REF_OBJ, OBJECT_RALLY_POINT, none}};       // nothing for the type
     for (const auto &c : scenarios) {
-        SCOPED_TRACE(c.type * 10 + c.refuse_acquire * 2 + c.refuse_release);
+        SCOPED_TRACE(c.type);
         record = {c.enabled & CO_TYPE, c.enabled, c.type, "", 0, 0, 0, 0, 0, 0, 0};
-        host.refuse_acquire = c.refuse_acquire;
-        host.refuse_release = c.refuse_release;
         boxes.clear();
         ui_driver d;
         box(d);
@@ -284,5 +268,4 @@ TEST_F(create_objects_test, reference_list_failures_leave_it_empty) {
         if (c.enabled & CO_TYPE) expected.push_back(c.message);
         EXPECT_EQ(lines(boxes.begin(), boxes.end()), expected);
     }
-    EXPECT_EQ(host.refused_releases.size(), 2u);
 }

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "editor/editor.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 #include "util/dlist.h"
 
 namespace {

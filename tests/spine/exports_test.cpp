@@ -3,7 +3,7 @@
 #include <string>
 
 #include "host/editor_exports.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 
 namespace {
 class dll_test : public editor_test, protected editor_exports {

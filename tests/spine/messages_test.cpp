@@ -3,7 +3,7 @@
 
 #include "editor/editor.h"
 #include "resources/string_ids.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 #include "util/dialogs.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include <string>
 
 #include "editor/editor.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 #include "util/settings.h"
 
 namespace {

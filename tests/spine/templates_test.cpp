@@ -8,7 +8,7 @@
 #include "resources/ground_ids.h"
 #include "resources/placement_ids.h"
 #include "resources/window_ids.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 
 namespace {
 struct control {

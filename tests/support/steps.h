@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 
 using step = ui_driver::action;
 

@@ -7,7 +7,7 @@
 #include <windows.h>
 
 #include "editor/editor.h"
-#include "tests/support/test_host.h"
+#include "tests/support/editor_test.h"
 
 // Pumps this thread's messages until `done` holds or about two seconds pass.
 inline bool pump_until(const std::function<bool()> &done) {

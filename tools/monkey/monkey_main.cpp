@@ -12,6 +12,7 @@
 #include <set>
 
 #include "host/host_app.h"
+#include "host/list_walk.h"
 #include "host/sample_mission.h"
 #include "tools/monkey/monkey.h"
 
@@ -82,23 +83,13 @@ bool terminated(const char (&field)[N]) {
     return strnlen(field, N) < N;
 }
 
-// A host list: every node a live 12-byte block, linked both ways, the head
-// recognised by its value; `each` gets every value in order.
+// A host list, whole (host/list_walk.h); `each` gets every value in order.
 template <class F>
 void walk(const dlist_node *head, const std::string &what, const std::string &after, F each) {
-    const alloc_tracker &memory = app().memory;
-    if (memory.size_of(head) != sizeof(dlist_node) || head->value != reinterpret_cast<uintptr_t>(head))
-        broken(what + ": no live head", after);
-    const dlist_node *node = head;
-    for (size_t count = 0;; ++count) {
-        const dlist_node *next = node->next;
-        if (memory.size_of(next) != sizeof(dlist_node)) broken(what + ": a link to no live node", after);
-        if (next->prev != node) broken(what + ": links that disagree", after);
-        if (next == head) return;
-        if (count > 100000) broken(what + ": no end", after);
-        each(next->value);
-        node = next;
-    }
+    std::string fault;
+    const std::vector<uintptr_t> values = checked_values(head, fault, &app().memory);
+    if (!fault.empty()) broken(what + ": " + fault, after);
+    for (uintptr_t value : values) each(value);
 }
 
 template <class T>

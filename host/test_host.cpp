@@ -1,8 +1,7 @@
-#include "tests/support/test_host.h"
+#include "host/test_host.h"
 
 #include <cstring>
 
-#include "editor/editor.h"
 
 test_host *current_host = nullptr;
 
@@ -54,16 +53,18 @@ int EDITOR_CDECL op_markers(dlist_node **list, int acquire) {
     return acquire_names(current_host->markers, list, acquire);
 }
 
+// A fresh list of host copies of the entries.
+template <class T>
+dlist_node *copies(const std::vector<T> &entries) {
+    std::vector<uintptr_t> values;
+    for (const T &e : entries) values.push_back(reinterpret_cast<uintptr_t>(current_host->copy_block(e)));
+    return current_host->build_list(values);
+}
+
 int units_out(const std::vector<unit_entry> &units, dlist_node **list) {
     test_host &h = *current_host;
     if (h.refuse_unit_acquire) return 0;
-    std::vector<uintptr_t> values;
-    for (const unit_entry &u : units) {
-        auto *copy = static_cast<unit_entry *>(h.memory.alloc(sizeof(unit_entry)));
-        *copy = u;
-        values.push_back(reinterpret_cast<uintptr_t>(copy));
-    }
-    *list = h.build_list(values);
+    *list = copies(units);
     ++h.lists_out;
     return 1;
 }
@@ -74,9 +75,7 @@ int EDITOR_CDECL op_unit_list(dlist_node **list, int acquire) {
         ++h.unit_acquires;
         return units_out(h.units, list);
     }
-    for (dlist_node *node = (*list)->next; node != *list; node = node->next)
-        h.memory.free(reinterpret_cast<void *>(node->value), sizeof(unit_entry));
-    h.free_list(*list);
+    h.heli.free_units(*list);
     *list = nullptr;
     --h.lists_out;
     return h.refuse_unit_release ? 0 : 1;
@@ -138,13 +137,7 @@ int EDITOR_CDECL op_rally_points(dlist_node **list, int acquire) {
     test_host &h = *current_host;
     if (acquire) {
         if (h.refuse_rally_points) return 0;
-        std::vector<uintptr_t> values;
-        for (const rally_point_entry &point : h.rally_points) {
-            auto *copy = static_cast<rally_point_entry *>(h.memory.alloc(sizeof(rally_point_entry)));
-            *copy = point;
-            values.push_back(reinterpret_cast<uintptr_t>(copy));
-        }
-        *list = h.build_list(values);
+        *list = copies(h.rally_points);
         ++h.lists_out;
         return 1;
     }
@@ -200,30 +193,12 @@ HWND test_main_window() {
 }  // namespace
 
 dlist_node *test_host::build_list(const std::vector<uintptr_t> &values) {
-    auto *head = static_cast<dlist_node *>(memory.alloc(12));
-    head->next = head->prev = head;
-    head->value = reinterpret_cast<uintptr_t>(head);
-    for (uintptr_t value : values) {
-        auto *node = static_cast<dlist_node *>(memory.alloc(12));
-        node->value = value;
-        node->next = head;
-        node->prev = head->prev;
-        head->prev->next = node;
-        head->prev = node;
-    }
+    dlist_node *head = heli.new_list();
+    for (uintptr_t value : values) heli.append(head, reinterpret_cast<const void *>(value));
     return head;
 }
 
-void test_host::free_list(dlist_node *head) {
-    if (!head) return;
-    dlist_node *node = head->next;
-    while (node != head) {
-        dlist_node *next = node->next;
-        memory.free(node, 12);
-        node = next;
-    }
-    memory.free(head, 12);
-}
+void test_host::free_list(dlist_node *head) { heli.free_list(head); }
 
 char *test_host::host_text(const std::string &text) {
     auto size = static_cast<uint32_t>(text.size() + 1);
@@ -253,22 +228,12 @@ group_record *test_host::make_group(const std::string &name, const std::vector<u
     std::memset(group, 0, sizeof *group);
     std::strncpy(group->name, name.c_str(), sizeof group->name - 1);
     group->status = status;
-    std::vector<uintptr_t> values;
-    for (const unit_entry &u : members) {
-        auto *copy = static_cast<unit_entry *>(memory.alloc(sizeof(unit_entry)));
-        *copy = u;
-        values.push_back(reinterpret_cast<uintptr_t>(copy));
-    }
-    group->members = build_list(values);
+    group->members = copies(members);
     return group;
 }
 
 void test_host::free_group(group_record *group) {
-    if (dlist_node *members = group->members) {
-        for (dlist_node *node = members->next; node != members; node = node->next)
-            memory.free(reinterpret_cast<void *>(node->value), sizeof(unit_entry));
-        free_list(members);
-    }
+    heli.free_units(group->members);
     memory.free(group, sizeof(group_record));
 }
 
@@ -331,40 +296,15 @@ void test_host::write_setting(const char *section, const char *key, const char *
 
 void test_host::clear_settings() const { DeleteFileA(settings_path().c_str()); }
 
-void editor_test::SetUp() {
-    // Every host block ends at an untouchable page: an overrun of a record or
-    // a use of a freed one fails the test where it happens.
-    host.memory.guard_pages = true;
-    char temp[MAX_PATH];
-    GetTempPathA(sizeof temp, temp);
-    host.settings_folder = std::string(temp) + "editor_tests\\";
-    CreateDirectoryA(host.settings_folder.c_str(), nullptr);
-    host.setup();
-    host.clear_settings();
-    SetWindowPos(host.main_window, nullptr, 50, 50, 400, 300, SWP_NOZORDER);
-}
-
-void editor_test::TearDown() {
-    ui_driver::close_all_dialogs();
-    if (editor_started) editor_tidyup();
-    EXPECT_EQ(host.lists_out, 0) << "host lists acquired and never released";
-    for (dlist_node *list : host.refused_releases) host.free_list(list);
-    host.refused_releases.clear();
-    std::vector<std::string> problems = host.heli.report();
-    host.heli.forget();
-    for (const std::string &p : host.memory.problems()) problems.push_back(p);
-    std::string all;
-    for (const std::string &p : problems) all += p + "\n";
-    EXPECT_TRUE(problems.empty()) << all;
-    host.memory.reset();
-    for (auto &block : host.owned) std::free(block.first);
-    host.owned.clear();
-    host.clear_settings();
-    current_host = nullptr;
-}
-
-int editor_test::start_editor(const std::function<void(editor_setup &)> &adjust) {
-    editor_setup s = host.setup();
-    if (adjust) adjust(s);
-    return editor_init(s);
+std::vector<std::string> test_host::finish() {
+    std::vector<std::string> problems;
+    if (lists_out) problems.push_back(std::to_string(lists_out) + " host lists acquired and never released");
+    lists_out = 0;
+    for (dlist_node *list : refused_releases) free_list(list);
+    refused_releases.clear();
+    for (const std::string &p : heli.report()) problems.push_back(p);
+    heli.forget();
+    for (const std::string &p : memory.problems()) problems.push_back(p);
+    memory.reset();
+    return problems;
 }
