@@ -351,6 +351,12 @@ int main(int argc, char **argv) {
         if (!std::strcmp(argv[i], "--runs") && i + 1 < argc) runs = std::max(1, std::atoi(argv[++i]));
         else if (!std::strcmp(argv[i], "--quick")) sizes = {100, 1000};
         else if (!std::strcmp(argv[i], "--only") && i + 1 < argc) only = argv[++i];
+        else if (!std::strcmp(argv[i], "--sizes") && i + 1 < argc) {
+            // A comma-separated list of N, to try other scales (100000).
+            sizes.clear();
+            for (char *n = std::strtok(argv[++i], ","); n; n = std::strtok(nullptr, ","))
+                if (std::atoi(n) > 0) sizes.push_back(std::atoi(n));
+        }
     }
 
     bench_host &h = bench();

@@ -8,16 +8,12 @@ namespace {
 // The key by which a sorted control ranks a line: the platform's sort key of
 // its text, compared without regard to case in the user's locale, as the
 // control itself compares.
-std::string sort_key(const char *text) {
-    int wide_length = MultiByteToWideChar(CP_ACP, 0, text, -1, nullptr, 0);
-    if (wide_length <= 0) return std::string();
-    std::wstring wide(static_cast<size_t>(wide_length), L'\0');
-    MultiByteToWideChar(CP_ACP, 0, text, -1, &wide[0], wide_length);
+std::string sort_key(const wchar_t *text) {
     const DWORD flags = LCMAP_SORTKEY | NORM_IGNORECASE;
-    int key_length = LCMapStringW(LOCALE_USER_DEFAULT, flags, wide.c_str(), -1, nullptr, 0);
+    int key_length = LCMapStringW(LOCALE_USER_DEFAULT, flags, text, -1, nullptr, 0);
     if (key_length <= 0) return std::string();
     std::string key(static_cast<size_t>(key_length), '\0');
-    LCMapStringW(LOCALE_USER_DEFAULT, flags, wide.c_str(), -1, reinterpret_cast<LPWSTR>(&key[0]), key_length);
+    LCMapStringW(LOCALE_USER_DEFAULT, flags, text, -1, reinterpret_cast<LPWSTR>(&key[0]), key_length);
     return key;
 }
 }  // namespace
@@ -50,11 +46,31 @@ std::vector<size_t> line_batch::sorted_order() const {
     std::iota(order.begin(), order.end(), size_t{0});
     std::vector<std::string> keys;
     keys.reserve(lines_.size());
-    for (const line &l : lines_) keys.push_back(sort_key(texts_.c_str() + l.text));
+    for (size_t wide_at : wide_at_) keys.push_back(sort_key(wide_.c_str() + wide_at));
     std::sort(order.begin(), order.end(), [&](size_t a, size_t b) { return keys[a] < keys[b]; });
     for (size_t i = 1; i < order.size(); ++i)
         if (keys[order[i - 1]] == keys[order[i]]) return {};
     return order;
+}
+
+// Every line as the control keeps it, in wide characters: converted here
+// once, as the control would convert each text it is sent, so that neither
+// the sort keys nor the control convert it again.
+void line_batch::widen() {
+    wide_.clear();
+    wide_.reserve(texts_.size());
+    wide_at_.clear();
+    wide_at_.reserve(lines_.size());
+    for (const line &l : lines_) {
+        const char *text = texts_.c_str() + l.text;
+        const int bytes = static_cast<int>(std::strlen(text)) + 1;
+        const size_t at = wide_.size();
+        wide_.resize(at + static_cast<size_t>(bytes));  // never more characters than bytes
+        const int got = MultiByteToWideChar(CP_ACP, 0, text, bytes, &wide_[at], bytes);
+        wide_.resize(at + static_cast<size_t>(got > 0 ? got : 0));
+        if (got <= 0) wide_.push_back(L'\0');
+        wide_at_.push_back(at);
+    }
 }
 
 const std::vector<LRESULT> &line_batch::commit() {
@@ -62,6 +78,7 @@ const std::vector<LRESULT> &line_batch::commit() {
     committed_ = true;
     indices_.assign(lines_.size(), -1);
     if (lines_.empty()) return indices_;
+    widen();
     std::vector<size_t> order = sorted_order();
     // Lines in the control's own order are put at its end, so that it
     // neither searches nor moves anything; otherwise it places them itself.
@@ -77,8 +94,8 @@ const std::vector<LRESULT> &line_batch::commit() {
     SendMessageA(control_, combo_ ? CB_INITSTORAGE : LB_INITSTORAGE, lines_.size(), texts_.size());
     for (size_t i : order) {
         const line &l = lines_[i];
-        LRESULT index = SendMessageA(control_, add, static_cast<WPARAM>(-1),
-                                     reinterpret_cast<LPARAM>(texts_.c_str() + l.text));
+        LRESULT index = SendMessageW(control_, add, static_cast<WPARAM>(-1),
+                                     reinterpret_cast<LPARAM>(wide_.c_str() + wide_at_[i]));
         if (index >= 0 && l.with_data) SendMessageA(control_, set_data, static_cast<WPARAM>(index), l.data);
         indices_[i] = index;
     }

@@ -42,6 +42,7 @@ private:
         LPARAM data;
         bool with_data;
     };
+    void widen();
     std::vector<size_t> sorted_order() const;
 
     HWND control_;
@@ -52,4 +53,6 @@ private:
     std::string texts_;  // every line's text and its NUL, one after another
     std::vector<line> lines_;
     std::vector<LRESULT> indices_;
+    std::wstring wide_;            // every line's text in wide characters, NUL-ended
+    std::vector<size_t> wide_at_;  // where each line starts in wide_
 };
