@@ -21,7 +21,6 @@
 #include "resources/placement_ids.h"
 #include "resources/window_ids.h"
 #include "tests/hostile/hostile_fixture.h"
-#include "tests/support/shown.h"
 #include "tests/support/steps.h"
 #include "windows/status.h"
 
