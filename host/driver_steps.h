@@ -115,3 +115,17 @@ inline std::string listed(HWND dialog, int id) {
     }
     return all;
 }
+
+// These controls in one line, '|' between them: list boxes as `listed`
+// reads them, the rest as `shown` does.
+inline std::function<std::string(HWND)> screen(std::vector<int> ids) {
+    return [ids](HWND dialog) {
+        std::string all;
+        for (int id : ids) {
+            char kind[16] = "";
+            GetClassNameA(GetDlgItem(dialog, id), kind, sizeof kind);
+            all += (all.empty() ? "" : "|") + (lstrcmpiA(kind, "ListBox") ? shown(dialog, {id}) : listed(dialog, id));
+        }
+        return all;
+    };
+}
