@@ -66,9 +66,11 @@ TEST_F(heli_order_test, deploy_entries_change_at_once_after_the_duplicate_and_ex
         {deploy, add("Tank1", "1", "1")}, {error, answer(IDOK)},
         {deploy, add("Ghost", "1", "2")}, {question, answer(IDNO)},
         {deploy, add(std::string(40, 'g'), "3", "4")}, {question, answer(IDYES)},
-        // An empty name or a number the strict rule refuses adds nothing, silently.
+        // An empty name or a number the strict rule refuses adds nothing,
+        // silently; so does a node the host cannot give (the entry goes back).
         {deploy, add("Grunt7", "12.5 ", "1")}, {deploy, add("Grunt7", "1", "12m")}, {deploy, add("", "1", "1")},
-        {deploy, picking(IDC_DEPLOY_LIST, 1)},
+        {deploy, [&](HWND dlg) { host.memory.fail_after = 1, add("Tank2", "1", "1")(dlg); }},
+        {deploy, [&](HWND dlg) { host.memory.fail_after = -1, picking(IDC_DEPLOY_LIST, 1)(dlg); }},
         {deploy, noting(seen, look, typing({{IDC_DEPLOY_X, "5"}}, press(IDC_DEPLOY_UPDATE)))},  // its own name: no box
         {deploy, noting(seen, look, picking(IDC_DEPLOY_LIST, 1, add("Tank1", "0", "0", IDC_DEPLOY_UPDATE)))},
         {error, answer(IDOK)},
