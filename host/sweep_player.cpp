@@ -1,6 +1,7 @@
 #include "host/sweep_player.h"
 
 #include <cstring>
+#include <set>
 
 #include "editor/editor.h"
 #include "host/list_walk.h"
@@ -523,4 +524,41 @@ outcome play(test_host &host, const flow &f, const fault_plan &plan, variation v
     for (const std::string &problem : host.finish()) classify(problem, out);
     acquisitions.clear();
     return out;
+}
+
+namespace {
+struct answering {
+    std::set<HWND> before;  // up before the call: not the request's
+    std::vector<std::string> shown;
+    std::map<HWND, int> ticks;
+};
+answering *active = nullptr;
+
+void CALLBACK answer(HWND, UINT, UINT_PTR, DWORD) {
+    for (HWND w : ui_thread_windows()) {
+        if (!is_flow_window(w) || active->before.count(w) || !IsWindowEnabled(w)) continue;
+        const int seen = active->ticks[w]++;
+        const std::string kind = kind_of(w);
+        if (seen == 0) {
+            active->shown.push_back(kind.empty() ? "'" + ui_window_text(w) + "'" : kind);
+            ui_command(w, kind != "box" ? IDCANCEL : GetDlgItem(w, IDYES) ? IDYES : IDOK);
+        } else if (seen == 300) {
+            active->shown.push_back(kind + " would not close");
+            EndDialog(w, IDCANCEL);
+        }
+        return;
+    }
+}
+}  // namespace
+
+int answered(const std::function<int()> &call, std::vector<std::string> &shown) {
+    answering a;
+    for (HWND w : ui_thread_windows()) a.before.insert(w);
+    active = &a;
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, answer);
+    const int result = call();
+    KillTimer(nullptr, timer);
+    active = nullptr;
+    shown = a.shown;
+    return result;
 }

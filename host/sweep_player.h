@@ -107,3 +107,9 @@ struct outcome {
 // editor started on `host` with install_fault_points; the host's allocator
 // and records are checked and forgotten afterwards.
 outcome play(test_host &host, const flow &f, const fault_plan &plan, variation v = {});
+
+// Runs `call` (a request made from inside a dialog) answering the first flow
+// window it brings up: a message box with OK or Yes, anything else with
+// Cancel. Each is named in `shown` by its kind (or quoted title), with a
+// note for one that would not close.
+int answered(const std::function<int()> &call, std::vector<std::string> &shown);

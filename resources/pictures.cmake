@@ -84,7 +84,7 @@ endfunction()
 # rather than through the Windows emulator.
 if(BUILD_TESTING OR NOT DEFINED BUILD_TESTING)
     set(_picture_tool_test "${CMAKE_BINARY_DIR}/tools/picture_tool_test")
-    set(_picture_tool_test_src "${CMAKE_SOURCE_DIR}/tools/picture_tool_test.cpp")
+    set(_picture_tool_test_src "${CMAKE_SOURCE_DIR}/tests/tools/picture_tool_test.cpp")
     add_custom_command(
         OUTPUT "${_picture_tool_test}"
         COMMAND "${NATIVE_CXX}" -std=c++17 -O2 -I "${CMAKE_SOURCE_DIR}/tools"

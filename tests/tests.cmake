@@ -1,4 +1,5 @@
-# One test program per folder under tests/ (besides support/): a Wine start
+# One test program per folder under tests/ (besides support/, and tools/,
+# whose native test resources/pictures.cmake builds and runs): a Wine start
 # costs seconds, so cases are grouped per subsystem rather than run one per
 # process. Each program links the editor's code and resources directly, plus
 # the test host and the UI driver.
@@ -27,7 +28,7 @@ target_compile_options(editor_core_hardened PRIVATE ${HARDENING})
 file(GLOB TEST_GROUPS LIST_DIRECTORIES true CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*)
 foreach(group_dir ${TEST_GROUPS})
     get_filename_component(group ${group_dir} NAME)
-    if(NOT IS_DIRECTORY ${group_dir} OR group STREQUAL "support")
+    if(NOT IS_DIRECTORY ${group_dir} OR group STREQUAL "support" OR group STREQUAL "tools")
         continue()
     endif()
     file(GLOB group_sources CONFIGURE_DEPENDS ${group_dir}/*.cpp)

@@ -10,7 +10,6 @@
 
 #include "editor/editor.h"
 #include "resources/air_ids.h"
-#include "tests/support/shown.h"
 #include "tests/support/steps.h"
 #include "util/dlist.h"
 
@@ -22,9 +21,6 @@ std::string bytes_of(std::initializer_list<T> records) {
     for (const T &r : records) all.append(reinterpret_cast<const char *>(&r), sizeof r);
     return all;
 }
-
-// The close box of the window's caption.
-inline void close_box(HWND dlg) { PostMessageA(dlg, WM_CLOSE, 0, 0); }
 
 // Name and terminator over the allocator's fill (the host's bytes untouched), and the height.
 inline bombing_waypoint waypoint(const char *name, float height) {

@@ -10,7 +10,7 @@
 
 #include "editor/editor.h"
 #include "resources/ground_ids.h"
-#include "tests/support/shown.h"
+#include "tests/support/steps.h"
 #include "tests/support/editor_test.h"
 #include "util/dlist.h"
 #include "util/text.h"
@@ -19,21 +19,7 @@ using lines = std::vector<std::string>;
 
 inline void press_ok(HWND dialog) { ui_command(dialog, IDOK); }
 inline void press_cancel(HWND dialog) { ui_command(dialog, IDCANCEL); }
-inline ui_driver::action click(int id) {
-    return [id](HWND dialog) { ui_command(dialog, id); };
-}
 inline uintptr_t arg(const void *pointer) { return reinterpret_cast<uintptr_t>(pointer); }
-
-// Runs `open` while `steps` act in turn on the window titled `title`; every
-// step must run. Answers what `open` answered.
-template <class Open>
-int drive(const std::string &title, std::initializer_list<ui_driver::action> steps, Open open) {
-    ui_driver d;
-    for (const ui_driver::action &step : steps) d.then(title, step);
-    const int result = open();
-    EXPECT_DRIVER_OK(d);
-    return result;
-}
 
 class ground_test : public editor_test {
 protected:

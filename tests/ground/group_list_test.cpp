@@ -25,7 +25,7 @@ TEST_F(group_list_test, new_groups_take_the_first_name_never_used_and_cancel_kee
     lines shown, names;
     ui_driver d;
     for (int close : {IDCANCEL, IDOK, IDOK})  // a cancelled new group goes back to the host
-        d.then("Group List", click(IDC_GL_ADD)).then("Dialog", [&names, close](HWND dlg) {
+        d.then("Group List", press(IDC_GL_ADD)).then("Dialog", [&names, close](HWND dlg) {
             names.push_back(ui_text(dlg, IDC_GC_NAME));
             ui_list_select(dlg, IDC_GC_AVAILABLE, "Tank1 (tank_t80)");
             ui_command(dlg, IDC_GC_ADD);

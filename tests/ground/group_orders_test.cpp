@@ -13,9 +13,6 @@ lines names_of(const dlist *list) {
 ui_driver::action name_order(const char *name) {
     return [name](HWND dlg) { ui_set_text(dlg, IDC_ORDER_NAME, name); press_ok(dlg); };
 }
-ui_driver::action select_and_click(int list, int index, int button) {
-    return [=](HWND dlg) { ui_list_select_index(dlg, list, index); ui_command(dlg, button); };
-}
 }  // namespace
 
 class orders_test : public group_test {
@@ -52,18 +49,18 @@ TEST_F(orders_test, lines_insert_before_the_selection_remove_releases_and_unname
     d.then("Dialog", [&](HWND dlg) {
         orders_before = ui_list_items(dlg, IDC_GO_ORDERS);
         contingencies_before = ui_list_items(dlg, IDC_GO_CONTINGENCIES);
-        select_and_click(IDC_GO_ORDERS, 1, IDC_GO_INSERT)(dlg);  // before B
+        pick_at(IDC_GO_ORDERS, 1, IDC_GO_INSERT)(dlg);  // before B
     });
     d.then("Orders", [&](HWND dlg) { ui_list_select(dlg, IDC_OR_TYPES, "Mobile Defence"); press_ok(dlg); });
-    d.then("Sarge Order", name_order("N")).then("Dialog", select_and_click(IDC_GO_ORDERS, 3, IDC_GO_REMOVE));
-    d.then("Dialog", select_and_click(IDC_GO_CONTINGENCIES, 0, IDC_GO_C_REMOVE));
-    d.then("Dialog", click(IDC_GO_C_ADD)).then("Sarge Order", name_order("Last"));
-    d.then("Dialog", select_and_click(IDC_GO_CONTINGENCIES, 0, IDC_GO_C_INSERT)).then("Sarge Order", name_order("First"));
-    d.then("Dialog", click(IDC_GO_C_ADD)).then("Sarge Order", press_cancel);  // released, not added
+    d.then("Sarge Order", name_order("N")).then("Dialog", pick_at(IDC_GO_ORDERS, 3, IDC_GO_REMOVE));
+    d.then("Dialog", pick_at(IDC_GO_CONTINGENCIES, 0, IDC_GO_C_REMOVE));
+    d.then("Dialog", press(IDC_GO_C_ADD)).then("Sarge Order", name_order("Last"));
+    d.then("Dialog", pick_at(IDC_GO_CONTINGENCIES, 0, IDC_GO_C_INSERT)).then("Sarge Order", name_order("First"));
+    d.then("Dialog", press(IDC_GO_C_ADD)).then("Sarge Order", press_cancel);  // released, not added
     // A new order needs both its type and itself confirmed; OK without a
     // choice types it as Advance, which starts at the host's first names.
-    d.then("Dialog", click(IDC_GO_ADD)).then("Orders", [&](HWND dlg) { types = ui_list_items(dlg, IDC_OR_TYPES); press_cancel(dlg); });
-    d.then("Dialog", click(IDC_GO_ADD)).then("Orders", press_ok).then("Sarge Order", [&](HWND dlg) {
+    d.then("Dialog", press(IDC_GO_ADD)).then("Orders", [&](HWND dlg) { types = ui_list_items(dlg, IDC_OR_TYPES); press_cancel(dlg); });
+    d.then("Dialog", press(IDC_GO_ADD)).then("Orders", press_ok).then("Sarge Order", [&](HWND dlg) {
         advance = shown(dlg, {IDC_ORDER_DESTINATION, IDC_ORDER_FORMATION});
         press_cancel(dlg);
     });
@@ -97,11 +94,11 @@ TEST_F(orders_test, full_lists_refuse_add_and_insert_and_cancel_loses_edits) {
             ui_command(dlg, id);  // arriving anyway: refused, no dialog opens, nothing is allocated
         }
     });
-    d.then("Dialog", select_and_click(IDC_GO_ORDERS, 0, IDC_GO_REMOVE));
-    d.then("Dialog", select_and_click(IDC_GO_CONTINGENCIES, 0, IDC_GO_C_REMOVE));
+    d.then("Dialog", pick_at(IDC_GO_ORDERS, 0, IDC_GO_REMOVE));
+    d.then("Dialog", pick_at(IDC_GO_CONTINGENCIES, 0, IDC_GO_C_REMOVE));
     d.then("Dialog", [&](HWND dlg) {
         add_again = ui_enabled(dlg, IDC_GO_ADD) && ui_enabled(dlg, IDC_GO_INSERT) && ui_enabled(dlg, IDC_GO_C_ADD);
-        select_and_click(IDC_GO_ORDERS, 0, IDC_GO_EDIT)(dlg);
+        pick_at(IDC_GO_ORDERS, 0, IDC_GO_EDIT)(dlg);
     });
     d.then("Sarge Order", name_order("Changed"));
     d.then("Dialog", [&](HWND dlg) { edited_line = ui_list_items(dlg, IDC_GO_ORDERS).at(0); press_cancel(dlg); });

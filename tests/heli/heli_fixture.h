@@ -9,7 +9,6 @@
 
 #include "editor/editor.h"
 #include "resources/heli_ids.h"
-#include "tests/support/shown.h"
 #include "tests/support/steps.h"
 #include "util/dlist.h"
 

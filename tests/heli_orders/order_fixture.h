@@ -10,7 +10,6 @@
 #include "editor/editor.h"
 #include "heli_orders/heli_order.h"
 #include "resources/heli_order_ids.h"
-#include "tests/support/shown.h"
 #include "tests/support/steps.h"
 
 using lines = std::vector<std::string>;

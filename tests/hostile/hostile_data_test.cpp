@@ -21,7 +21,6 @@
 #include "resources/placement_ids.h"
 #include "resources/window_ids.h"
 #include "tests/hostile/hostile_fixture.h"
-#include "tests/support/shown.h"
 #include "tests/support/steps.h"
 #include "windows/status.h"
 
@@ -50,19 +49,6 @@ unit_entry unit(int32_t id, char name, char type_name) {
     return u;
 }
 
-// What a dialog shows in these controls ("|" between them): list boxes as
-// `listed` shows them, other controls as `shown` does.
-std::function<std::string(HWND)> screen(std::vector<int> ids) {
-    return [ids](HWND dialog) {
-        std::string all;
-        for (int id : ids) {
-            char kind[16] = "";
-            GetClassNameA(GetDlgItem(dialog, id), kind, sizeof kind);
-            all += (all.empty() ? "" : "|") + (lstrcmpiA(kind, "ListBox") ? shown(dialog, {id}) : listed(dialog, id));
-        }
-        return all;
-    };
-}
 using lines = std::vector<std::string>;
 using script = std::vector<std::pair<std::string, step>>;
 }  // namespace

@@ -9,7 +9,7 @@
 #include "editor/editor.h"
 #include "placement/create_objects.h"
 #include "resources/placement_ids.h"
-#include "tests/support/shown.h"
+#include "host/driver_steps.h"
 #include "tests/support/editor_test.h"
 
 namespace {

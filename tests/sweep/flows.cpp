@@ -4,6 +4,7 @@
 // that can fail, given last (a failed command then undoes its whole step);
 // steps whose effects would be overwritten by a notification the dialog has
 // not yet handled (a combo that reloads its section) are split in two.
+#include "host/driver_steps.h"
 #include "resources/air_ids.h"
 #include "resources/ground_ids.h"
 #include "resources/heli_ids.h"
@@ -12,41 +13,8 @@
 #include "tests/sweep/sweep.h"
 
 namespace {
-action all(std::initializer_list<action> acts) {
-    std::vector<action> list(acts);
-    return [list](HWND d) {
-        for (const action &a : list) a(d);
-    };
-}
-action click(int id) {
-    return [id](HWND d) { ui_command(d, id); };
-}
-action press(int id) {  // a check box or radio button, through the control
-    return [id](HWND d) { ui_click(d, id); };
-}
-action type(int id, const char *text) {
-    return [id, text](HWND d) { ui_set_text(d, id, text); };
-}
-action select(int list, const char *line) {
-    return [list, line](HWND d) { ui_list_select(d, list, line); };
-}
-action select_at(int list, int index) {
-    return [list, index](HWND d) { ui_list_select_index(d, list, index); };
-}
-action double_click(int list) {
-    return [list](HWND d) { ui_list_double_click(d, list); };
-}
-action combo(int id, const char *text) {
-    return [id, text](HWND d) { ui_combo_select(d, id, text); };
-}
-action combo_at(int id, int index) {
-    return [id, index](HWND d) { ui_combo_select_index(d, id, index); };
-}
-action pick(int list, const char *line, int button) { return all({select(list, line), click(button)}); }
-action pick_at(int list, int index, int button) { return all({select_at(list, index), click(button)}); }
-const action ok = click(IDOK);
-const action cancel = click(IDCANCEL);
-const action close_box = [](HWND d) { PostMessageA(d, WM_CLOSE, 0, 0); };
+const action ok = press(IDOK);
+const action cancel = press(IDCANCEL);
 
 uintptr_t nth(const dlist_node *list, int n) {
     const dlist_node *node = list->next;
@@ -75,7 +43,7 @@ std::vector<step> steps_of(std::initializer_list<std::vector<step>> parts) {
 // A new order of `kind` from Edit Waypoint, left with Cancel after `first`
 // (if any), then another left with the close box.
 std::vector<step> order_left(uint32_t kind, const char *dialog, const char *chosen, std::vector<step> first = {}) {
-    std::vector<step> out = {{"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+    std::vector<step> out = {{"waypoint", "order Add", press(IDC_WP_ORDER_ADD)},
                              {"order type", chosen, all({select_at(IDC_SOT_KINDS, static_cast<int>(kind)), ok})}};
     out.insert(out.end(), first.begin(), first.end());
     out.push_back({dialog, "Cancel", cancel});
@@ -95,7 +63,7 @@ const std::vector<flow> &all_flows() {
               all({combo(IDC_CO_REF_OBJ, "Barn"), type(IDC_CO_NUMBER, "3"), type(IDC_CO_OBJ_DIST, "12.5"),
                    type(IDC_CO_CAM_DIST, "80")})},
              {"create objects", "align Y, orient X, neither camera relative",
-              all({press(IDC_CO_AALIGN_Y), press(IDC_CO_ORIENT_X), press(IDC_CO_AACAMREL), press(IDC_CO_OCAMREL)})},
+              all({toggle(IDC_CO_AALIGN_Y), toggle(IDC_CO_ORIENT_X), toggle(IDC_CO_AACAMREL), toggle(IDC_CO_OCAMREL)})},
              {"create objects", "OK", ok},
          }},
         {"create objects: a refused number, then the close box", REQUEST_CREATE_OBJECTS, the_placement,
@@ -134,22 +102,22 @@ const std::vector<flow> &all_flows() {
         {"group list: a group added through Group Composition, Group Orders, Orders and Sarge Order",
          REQUEST_GROUP_LIST, the_groups,
          {
-             {"group list", "Add", click(IDC_GL_ADD)},
+             {"group list", "Add", press(IDC_GL_ADD)},
              {"composition", "+, By Group, Target Player Only",
-              all({click(IDC_GC_PLUS), click(IDC_GC_BY_GROUP), click(IDC_GC_TARGET_PLAYER)})},
-             {"composition", "Rename", click(IDC_GC_RENAME)},
+              all({press(IDC_GC_PLUS), press(IDC_GC_BY_GROUP), press(IDC_GC_TARGET_PLAYER)})},
+             {"composition", "Rename", press(IDC_GC_RENAME)},
              {"edit name", "Tigers, OK", all({type(IDC_EN_NAME, "Tigers"), ok})},
              {"composition", "Add-> Mortar2 and Medic9",
               all({select(IDC_GC_AVAILABLE, "Mortar2 (mortar)"), select(IDC_GC_AVAILABLE, "Medic9 (medic)"),
-                   click(IDC_GC_ADD)})},
-             {"composition", "Edit Orders", click(IDC_GC_EDIT_ORDERS)},
-             {"group orders", "Add", click(IDC_GO_ADD)},
+                   press(IDC_GC_ADD)})},
+             {"composition", "Edit Orders", press(IDC_GC_EDIT_ORDERS)},
+             {"group orders", "Add", press(IDC_GO_ADD)},
              {"orders", "March, OK", all({select(IDC_OR_TYPES, "March"), ok})},
              {"sarge order", "Go to WP3 in a wedge and tell HQ, OK",
               all({type(IDC_ORDER_NAME, "Go"), combo(IDC_ORDER_DESTINATION, "WP3"),
                    combo(IDC_ORDER_FORMATION, "Wedge"), combo(IDC_ORDER_MESSAGE_TARGET, "HQ"),
                    type(IDC_ORDER_MESSAGE, "Arrived"), ok})},
-             {"group orders", "contingency Add", click(IDC_GO_C_ADD)},
+             {"group orders", "contingency Add", press(IDC_GO_C_ADD)},
              {"contingency", "trigger Message", combo(IDC_CT_TRIGGER, "Message")},
              {"contingency", "Go!, next order Go, OK",
               all({type(IDC_CT_VALUE, "Go!"), type(IDC_CT_NEXT_ORDER, "Go"), ok})},
@@ -162,8 +130,8 @@ const std::vector<flow> &all_flows() {
          {
              {"group list", "Edit sarge0", pick(IDC_GL_GROUPS, "sarge0", IDC_GL_EDIT)},
              {"composition", "<-Remove Tank2", pick(IDC_GC_MEMBERS, "Tank2 (tank_t80)", IDC_GC_REMOVE)},
-             {"composition", "By Unit, --", all({click(IDC_GC_BY_UNIT), click(IDC_GC_MINUS)})},
-             {"composition", "Edit Orders", click(IDC_GC_EDIT_ORDERS)},
+             {"composition", "By Unit, --", all({press(IDC_GC_BY_UNIT), press(IDC_GC_MINUS)})},
+             {"composition", "Edit Orders", press(IDC_GC_EDIT_ORDERS)},
              {"group orders", "Edit Push", pick(IDC_GO_ORDERS, "Push (Advance)", IDC_GO_EDIT)},
              {"sarge order", "Wedge, OK", all({combo(IDC_ORDER_FORMATION, "Wedge"), ok})},
              {"group orders", "Insert before Wait", pick(IDC_GO_ORDERS, "Wait (Halt)", IDC_GO_INSERT)},
@@ -183,7 +151,7 @@ const std::vector<flow> &all_flows() {
              {"group orders", "contingency Insert before Duck",
               pick(IDC_GO_CONTINGENCIES, "Duck (Enemy Close)", IDC_GO_C_INSERT)},
              {"contingency", "Cancel", cancel},
-             {"group orders", "contingency Add", click(IDC_GO_C_ADD)},
+             {"group orders", "contingency Add", press(IDC_GO_C_ADD)},
              {"contingency", "trigger Under Fire", combo(IDC_CT_TRIGGER, "Under Fire")},
              {"contingency", "OK", ok},
              {"group orders", "contingency Remove the first", pick_at(IDC_GO_CONTINGENCIES, 0, IDC_GO_C_REMOVE)},
@@ -197,16 +165,16 @@ const std::vector<flow> &all_flows() {
         {"group composition: a group alone, every level closed unconfirmed", REQUEST_GROUP_COMPOSITION, sarge1_alone,
          {
              {"composition", "Add-> Jeep3", pick(IDC_GC_AVAILABLE, "Jeep3 (jeep)", IDC_GC_ADD)},
-             {"composition", "Edit Orders", click(IDC_GC_EDIT_ORDERS)},
-             {"group orders", "Add", click(IDC_GO_ADD)},
+             {"composition", "Edit Orders", press(IDC_GC_EDIT_ORDERS)},
+             {"group orders", "Add", press(IDC_GO_ADD)},
              {"orders", "close box", close_box},
-             {"group orders", "contingency Add", click(IDC_GO_C_ADD)},
+             {"group orders", "contingency Add", press(IDC_GO_C_ADD)},
              {"contingency", "close box", close_box},
-             {"group orders", "contingency Add", click(IDC_GO_C_ADD)},
+             {"group orders", "contingency Add", press(IDC_GO_C_ADD)},
              {"contingency", "OK", ok},
              {"group orders", "close box", close_box},
-             {"composition", "Edit Orders", click(IDC_GC_EDIT_ORDERS)},
-             {"group orders", "Add", click(IDC_GO_ADD)},
+             {"composition", "Edit Orders", press(IDC_GC_EDIT_ORDERS)},
+             {"group orders", "Add", press(IDC_GO_ADD)},
              {"orders", "OK", ok},
              {"sarge order", "Cancel", cancel},
              {"group orders", "Cancel", cancel},
@@ -214,21 +182,21 @@ const std::vector<flow> &all_flows() {
          }},
         {"heli list: a group added with a route, orders and cargo", REQUEST_LIST_HELI_GROUPS, the_heli_groups,
          {
-             {"heli list", "Add", click(IDC_LHG_ADD)},
+             {"heli list", "Add", press(IDC_LHG_ADD)},
              {"heli group", "Add-> U14 and U15",
-              all({select(IDC_HG_AVAILABLE, "U14"), select(IDC_HG_AVAILABLE, "U15"), click(IDC_HG_ADD)})},
+              all({select(IDC_HG_AVAILABLE, "U14"), select(IDC_HG_AVAILABLE, "U15"), press(IDC_HG_ADD)})},
              {"heli group", "double-click U16 over", all({select(IDC_HG_AVAILABLE, "U16"), double_click(IDC_HG_AVAILABLE)})},
              {"heli group", "Charlie at RP_North",
               all({type(IDC_HG_NAME, "Charlie"), combo(IDC_HG_RALLY_POINT, "RP_North")})},
-             {"heli group", "Edit Waypoints", click(IDC_HG_EDIT_WAYPOINTS)},
-             {"route", "Add", click(IDC_WPS_ADD)},
+             {"heli group", "Edit Waypoints", press(IDC_HG_EDIT_WAYPOINTS)},
+             {"route", "Add", press(IDC_WPS_ADD)},
              {"waypoint", "WP3, High, 180 km/h",
               all({combo(IDC_WP_MARKER, "WP3"), combo(IDC_WP_HEIGHT, "High"), type(IDC_WP_SPEED, "180")})},
-             {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+             {"waypoint", "order Add", press(IDC_WP_ORDER_ADD)},
              {"order type", "Engage, OK", all({select_at(IDC_SOT_KINDS, HELI_ORDER_ENGAGE), ok})},
              {"engage", "SEAD at 750 m, OK",
               all({combo(IDC_ENGAGE_TARGETS, "SEAD"), type(IDC_ENGAGE_RANGE, "750"), ok})},
-             {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+             {"waypoint", "order Add", press(IDC_WP_ORDER_ADD)},
              {"order type", "double-click Land",
               all({select_at(IDC_SOT_KINDS, HELI_ORDER_LAND), double_click(IDC_SOT_KINDS)})},
              {"land", "first position 12, -4, OK", all({type(IDC_LAND_X0, "12"), type(IDC_LAND_Z0, "-4"), ok})},
@@ -236,13 +204,13 @@ const std::vector<flow> &all_flows() {
              {"route", "Insert before WP3", pick(IDC_WPS_LIST, "WP3", IDC_WPS_INSERT)},
              {"waypoint", "OK", ok},
              {"route", "OK", ok},
-             {"heli group", "in-transit sarges", click(IDC_HG_IN_TRANSIT)},
+             {"heli group", "in-transit sarges", press(IDC_HG_IN_TRANSIT)},
              {"deploy", "Add Tank1 at 10, 20",
               all({type(IDC_DEPLOY_NAME, "Tank1"), type(IDC_DEPLOY_X, "10"), type(IDC_DEPLOY_Z, "20"),
-                   click(IDC_DEPLOY_ADD)})},
+                   press(IDC_DEPLOY_ADD)})},
              {"deploy", "Add Grunt7 at 30, 40",
               all({type(IDC_DEPLOY_NAME, "Grunt7"), type(IDC_DEPLOY_X, "30"), type(IDC_DEPLOY_Z, "40"),
-                   click(IDC_DEPLOY_ADD)})},
+                   press(IDC_DEPLOY_ADD)})},
              {"deploy", "Delete the first", pick_at(IDC_DEPLOY_LIST, 0, IDC_DEPLOY_DELETE)},
              {"deploy", "OK", ok},
              {"heli group", "OK", ok},
@@ -252,7 +220,7 @@ const std::vector<flow> &all_flows() {
          {
              {"heli list", "Edit Alpha", pick(IDC_LHG_GROUPS, "Alpha", IDC_LHG_EDIT)},
              {"heli group", "<-Remove U11", pick(IDC_HG_MEMBERS, "U11", IDC_HG_REMOVE)},
-             {"heli group", "Edit Waypoints", click(IDC_HG_EDIT_WAYPOINTS)},
+             {"heli group", "Edit Waypoints", press(IDC_HG_EDIT_WAYPOINTS)},
              {"route", "Edit WP_North", pick(IDC_WPS_LIST, "WP_North", IDC_WPS_EDIT)},
              {"waypoint", "Edit Patrol", pick(IDC_WP_ORDERS, "Patrol", IDC_WP_ORDER_EDIT)},
              {"patrol", "Add LZ_Alpha", pick(IDC_PATROL_MARKERS, "LZ_Alpha", IDC_PATROL_ADD)},
@@ -262,30 +230,30 @@ const std::vector<flow> &all_flows() {
              {"patrol", "5 cycles, OK", all({combo_at(IDC_PATROL_CYCLES, 5), ok})},
              {"waypoint", "Insert before Wait", pick(IDC_WP_ORDERS, "Wait", IDC_WP_ORDER_INSERT)},
              {"order type", "Pickup, OK", all({select_at(IDC_SOT_KINDS, HELI_ORDER_PICKUP), ok})},
-             {"pickup", "Add Tank2", all({type(IDC_PICKUP_NAME, "Tank2"), click(IDC_PICKUP_ADD)})},
-             {"pickup", "Add Grunt7", all({type(IDC_PICKUP_NAME, "Grunt7"), click(IDC_PICKUP_ADD)})},
+             {"pickup", "Add Tank2", all({type(IDC_PICKUP_NAME, "Tank2"), press(IDC_PICKUP_ADD)})},
+             {"pickup", "Add Grunt7", all({type(IDC_PICKUP_NAME, "Grunt7"), press(IDC_PICKUP_ADD)})},
              {"pickup", "Grunt7 renamed sarge0",
-              all({select_at(IDC_PICKUP_LIST, 1), type(IDC_PICKUP_NAME, "sarge0"), click(IDC_PICKUP_UPDATE)})},
+              all({select_at(IDC_PICKUP_LIST, 1), type(IDC_PICKUP_NAME, "sarge0"), press(IDC_PICKUP_UPDATE)})},
              {"pickup", "Delete the first", pick_at(IDC_PICKUP_LIST, 0, IDC_PICKUP_DELETE)},
              {"pickup", "OK", ok},
              {"waypoint", "Edit Wait", pick(IDC_WP_ORDERS, "Wait", IDC_WP_ORDER_EDIT)},
              {"wait", "for sarge0 within 300 m, OK",
               all({combo(IDC_WAIT_MODE, "Wait For Sarge"), type(IDC_WAIT_NAME, "sarge0"),
                    type(IDC_WAIT_RANGE, "300"), ok})},
-             {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+             {"waypoint", "order Add", press(IDC_WP_ORDER_ADD)},
              {"order type", "Deploy, OK", all({select_at(IDC_SOT_KINDS, HELI_ORDER_DEPLOY), ok})},
              {"deploy", "Add Jeep3, unknown to the host",
               all({type(IDC_DEPLOY_NAME, "Jeep3"), type(IDC_DEPLOY_X, "1"), type(IDC_DEPLOY_Z, "2"),
-                   click(IDC_DEPLOY_ADD)})},
+                   press(IDC_DEPLOY_ADD)})},
              {"deploy", "OK", ok},
              {"waypoint", "Remove Patrol", pick(IDC_WP_ORDERS, "Patrol", IDC_WP_ORDER_REMOVE)},
              {"waypoint", "OK", ok},
              {"route", "Remove WP_South", pick(IDC_WPS_LIST, "WP_South", IDC_WPS_REMOVE)},
-             {"route", "Add", click(IDC_WPS_ADD)},
-             {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+             {"route", "Add", press(IDC_WPS_ADD)},
+             {"waypoint", "order Add", press(IDC_WP_ORDER_ADD)},
              {"order type", "Wait, OK", all({select_at(IDC_SOT_KINDS, HELI_ORDER_WAIT), ok})},
              {"wait", "Cancel", cancel},
-             {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+             {"waypoint", "order Add", press(IDC_WP_ORDER_ADD)},
              {"order type", "Patrol, OK", all({select_at(IDC_SOT_KINDS, HELI_ORDER_PATROL), ok})},
              {"patrol", "double-click WP2", all({select(IDC_PATROL_MARKERS, "WP2"), double_click(IDC_PATROL_MARKERS)})},
              {"patrol", "OK", ok},
@@ -302,20 +270,20 @@ const std::vector<flow> &all_flows() {
                  {"heli list", "double-click Alpha",
                   all({select(IDC_LHG_GROUPS, "Alpha"), double_click(IDC_LHG_GROUPS)})},
                  {"heli group", "Add-> U16", pick(IDC_HG_AVAILABLE, "U16", IDC_HG_ADD)},
-                 {"heli group", "Edit Waypoints", click(IDC_HG_EDIT_WAYPOINTS)},
+                 {"heli group", "Edit Waypoints", press(IDC_HG_EDIT_WAYPOINTS)},
                  {"route", "Edit WP_South", pick(IDC_WPS_LIST, "WP_South", IDC_WPS_EDIT)},
                  {"waypoint", "Edit Engage", pick(IDC_WP_ORDERS, "Engage", IDC_WP_ORDER_EDIT)},
                  {"engage", "Cancel", cancel},
                  {"waypoint", "Edit Engage", pick(IDC_WP_ORDERS, "Engage", IDC_WP_ORDER_EDIT)},
                  {"engage", "close box", close_box},
-                 {"waypoint", "order Insert, nothing selected", click(IDC_WP_ORDER_INSERT)},
+                 {"waypoint", "order Insert, nothing selected", press(IDC_WP_ORDER_INSERT)},
                  {"order type", "Cancel", cancel},
-                 {"waypoint", "order Add", click(IDC_WP_ORDER_ADD)},
+                 {"waypoint", "order Add", press(IDC_WP_ORDER_ADD)},
                  {"order type", "close box", close_box},
              },
              order_left(HELI_ORDER_DEPLOY, "deploy", "Deploy, OK"),
              order_left(HELI_ORDER_PICKUP, "pickup", "Pickup, OK",
-                        {{"pickup", "Add Tank1", all({type(IDC_PICKUP_NAME, "Tank1"), click(IDC_PICKUP_ADD)})}}),
+                        {{"pickup", "Add Tank1", all({type(IDC_PICKUP_NAME, "Tank1"), press(IDC_PICKUP_ADD)})}}),
              order_left(HELI_ORDER_PATROL, "patrol", "Patrol, OK",
                         {{"patrol", "Add WP1", pick(IDC_PATROL_MARKERS, "WP1", IDC_PATROL_ADD)}}),
              order_left(HELI_ORDER_WAIT, "wait", "Wait, OK"),
@@ -325,13 +293,13 @@ const std::vector<flow> &all_flows() {
                  {"route", "Insert before WP_North", pick(IDC_WPS_LIST, "WP_North", IDC_WPS_INSERT)},
                  {"waypoint", "Cancel", cancel},
                  {"route", "Cancel", cancel},
-                 {"heli group", "Edit Waypoints", click(IDC_HG_EDIT_WAYPOINTS)},
+                 {"heli group", "Edit Waypoints", press(IDC_HG_EDIT_WAYPOINTS)},
                  {"route", "close box", close_box},
-                 {"heli group", "in-transit sarges", click(IDC_HG_IN_TRANSIT)},
+                 {"heli group", "in-transit sarges", press(IDC_HG_IN_TRANSIT)},
                  {"deploy", "Delete Tank1", pick_at(IDC_DEPLOY_LIST, 0, IDC_DEPLOY_DELETE)},
                  {"deploy", "Cancel", cancel},
                  {"heli group", "Cancel", cancel},
-                 {"heli list", "Add", click(IDC_LHG_ADD)},
+                 {"heli list", "Add", press(IDC_LHG_ADD)},
                  {"heli group", "close box", close_box},
                  {"heli list", "close box", close_box},
              },
@@ -340,19 +308,19 @@ const std::vector<flow> &all_flows() {
          {
              {"heli group", "Add-> U14", pick(IDC_HG_AVAILABLE, "U14", IDC_HG_ADD)},
              {"heli group", "double-click U11 back", all({select(IDC_HG_MEMBERS, "U11"), double_click(IDC_HG_MEMBERS)})},
-             {"heli group", "Edit Waypoints", click(IDC_HG_EDIT_WAYPOINTS)},
+             {"heli group", "Edit Waypoints", press(IDC_HG_EDIT_WAYPOINTS)},
              {"route", "double-click WP_North", all({select(IDC_WPS_LIST, "WP_North"), double_click(IDC_WPS_LIST)})},
              {"waypoint", "Medium, 90 km/h, NMC, fuel low Use ARSP, OK",
               all({combo(IDC_WP_HEIGHT, "Medium"), type(IDC_WP_SPEED, "90"), combo(IDC_WP_DAMAGE_LEVEL, "NMC"),
                    combo(IDC_WP_FUEL_LOW, "Use ARSP"), ok})},
              {"route", "OK", ok},
-             {"heli group", "in-transit sarges", click(IDC_HG_IN_TRANSIT)},
+             {"heli group", "in-transit sarges", press(IDC_HG_IN_TRANSIT)},
              {"deploy", "Add Grunt7 at 7, 8",
               all({type(IDC_DEPLOY_NAME, "Grunt7"), type(IDC_DEPLOY_X, "7"), type(IDC_DEPLOY_Z, "8"),
-                   click(IDC_DEPLOY_ADD)})},
+                   press(IDC_DEPLOY_ADD)})},
              {"deploy", "double-click Grunt7", all({select_at(IDC_DEPLOY_LIST, 1), double_click(IDC_DEPLOY_LIST)})},
              {"deploy", "moved to 9, 9, Update",
-              all({type(IDC_DEPLOY_X, "9"), type(IDC_DEPLOY_Z, "9"), click(IDC_DEPLOY_UPDATE)})},
+              all({type(IDC_DEPLOY_X, "9"), type(IDC_DEPLOY_Z, "9"), press(IDC_DEPLOY_UPDATE)})},
              {"deploy", "OK", ok},
              {"heli group", "Alpha Two, OK", all({type(IDC_HG_NAME, "Alpha Two"), ok})},
          }},
@@ -364,14 +332,14 @@ const std::vector<flow> &all_flows() {
              {"bombing run", "<< Add WP2 again, refused", pick(IDC_BR_MARKERS, "WP2", IDC_BR_INGRESS_ADD)},
              {"bombing run", "the second 120 m high",
               all({select_at(IDC_BR_INGRESS, 1), type(IDC_BR_INGRESS_HEIGHT, "120"),
-                   click(IDC_BR_INGRESS_SET_HEIGHT)})},
+                   press(IDC_BR_INGRESS_SET_HEIGHT)})},
              {"bombing run", "<< Delete the last", pick_at(IDC_BR_INGRESS, 2, IDC_BR_INGRESS_DELETE)},
              {"bombing run", "Insert >> WP1, nothing selected", pick(IDC_BR_MARKERS, "WP1", IDC_BR_EGRESS_INSERT)},
              {"bombing run", "Add >> LZ_Alpha", pick(IDC_BR_MARKERS, "LZ_Alpha", IDC_BR_EGRESS_ADD)},
              {"bombing run", "Insert >> WP3 first",
               all({select_at(IDC_BR_EGRESS, 0), pick(IDC_BR_MARKERS, "WP3", IDC_BR_EGRESS_INSERT)})},
              {"bombing run", "the second 75 m high",
-              all({select_at(IDC_BR_EGRESS, 1), type(IDC_BR_EGRESS_HEIGHT, "75"), click(IDC_BR_EGRESS_SET_HEIGHT)})},
+              all({select_at(IDC_BR_EGRESS, 1), type(IDC_BR_EGRESS_HEIGHT, "75"), press(IDC_BR_EGRESS_SET_HEIGHT)})},
              {"bombing run", "Delete >> the first", pick_at(IDC_BR_EGRESS, 0, IDC_BR_EGRESS_DELETE)},
              {"bombing run", "Night Strike, x 1200, four Tornados, OK",
               all({type(IDC_BR_NAME, "Night Strike"), type(IDC_BR_TARGET_X, "1200"),
@@ -384,11 +352,11 @@ const std::vector<flow> &all_flows() {
          }},
         {"rally point: locations added, updated and deleted, OK", REQUEST_RALLY_POINT, the_rally_point,
          {
-             {"rally point", "<< Add", click(IDC_RP_ADD)},
-             {"rally point", "<< Add", click(IDC_RP_ADD)},
+             {"rally point", "<< Add", press(IDC_RP_ADD)},
+             {"rally point", "<< Add", press(IDC_RP_ADD)},
              {"rally point", "the second selected", select_at(IDC_RP_ARSP, 1)},
              {"rally point", "50, 60, << Update",
-              all({type(IDC_RP_ARSP_X, "50"), type(IDC_RP_ARSP_Z, "60"), click(IDC_RP_UPDATE)})},
+              all({type(IDC_RP_ARSP_X, "50"), type(IDC_RP_ARSP_Z, "60"), press(IDC_RP_UPDATE)})},
              {"rally point", "<< Delete the first", pick_at(IDC_RP_ARSP, 0, IDC_RP_DELETE)},
              {"rally point", "Rally North at 110, -30, OK",
               all({type(IDC_RP_NAME, "Rally North"), type(IDC_RP_X, "110"), type(IDC_RP_Z, "-30"), ok})},
@@ -405,7 +373,7 @@ const std::vector<flow> &all_flows() {
          }},
         {"rally point: an Add, then Cancel", REQUEST_RALLY_POINT, the_rally_point,
          {
-             {"rally point", "<< Add", click(IDC_RP_ADD)},
+             {"rally point", "<< Add", press(IDC_RP_ADD)},
              {"rally point", "Cancel", cancel},
          }},
     };

@@ -14,44 +14,6 @@
 #include "tests/sweep/sweep.h"
 
 namespace {
-// Answers the first window a nested request brings up: a message box with
-// OK or Yes, anything else with Cancel; each is named in `shown`.
-struct answering {
-    std::set<HWND> before;
-    std::vector<std::string> shown;
-    std::map<HWND, int> ticks;
-};
-answering *active = nullptr;
-
-void CALLBACK answer(HWND, UINT, UINT_PTR, DWORD) {
-    for (HWND w : ui_thread_windows()) {
-        if (!is_flow_window(w) || active->before.count(w) || !IsWindowEnabled(w)) continue;
-        const int seen = active->ticks[w]++;
-        const std::string kind = kind_of(w);
-        if (seen == 0) {
-            active->shown.push_back(kind.empty() ? "'" + ui_window_text(w) + "'" : kind);
-            ui_command(w, kind != "box" ? IDCANCEL : GetDlgItem(w, IDYES) ? IDYES : IDOK);
-        } else if (seen == 300) {
-            active->shown.push_back(kind + " would not close");
-            EndDialog(w, IDCANCEL);
-        }
-        return;
-    }
-}
-
-template <class Call>
-int answered(Call call, std::vector<std::string> &shown) {
-    answering a;
-    for (HWND w : ui_thread_windows()) a.before.insert(w);
-    active = &a;
-    UINT_PTR timer = SetTimer(nullptr, 0, 10, answer);
-    const int result = call();
-    KillTimer(nullptr, timer);
-    active = nullptr;
-    shown = a.shown;
-    return result;
-}
-
 bool ends_with(const std::string &text, const std::string &end) {
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
