@@ -296,7 +296,29 @@ void test_host::write_setting(const char *section, const char *key, const char *
 
 void test_host::clear_settings() const { DeleteFileA(settings_path().c_str()); }
 
+dlist_node *test_host::hold_list(dlist_node *list, uint32_t entry_size) {
+    held_.push_back({list, entry_size, true});
+    return list;
+}
+
+dlist_node *test_host::held_names(const std::vector<std::string> &texts) {
+    std::vector<uintptr_t> values;
+    for (const std::string &text : texts) values.push_back(reinterpret_cast<uintptr_t>(host_text(text)));
+    return hold_list(build_list(values), 0);
+}
+
 std::vector<std::string> test_host::finish() {
+    for (const held_block &h : held_) {
+        if (!h.list) {
+            memory.free(h.block, h.size);
+            continue;
+        }
+        auto *list = static_cast<dlist_node *>(h.block);
+        for (dlist_node *node = list->next; node != list; node = node->next)
+            if (node->value && h.size) memory.free(reinterpret_cast<void *>(node->value), h.size);
+        free_list(list);
+    }
+    held_.clear();
     std::vector<std::string> problems;
     if (lists_out) problems.push_back(std::to_string(lists_out) + " host lists acquired and never released");
     lists_out = 0;

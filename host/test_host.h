@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <map>
 #include <set>
@@ -84,9 +85,7 @@ struct test_host {
     // A block of host memory holding a copy of the record.
     template <class T>
     T *copy_block(const T &record) {
-        auto *block = static_cast<T *>(memory.alloc(sizeof record));
-        *block = record;
-        return block;
+        return static_cast<T *>(std::memcpy(memory.alloc(sizeof record), &record, sizeof record));
     }
     // Copies a text into host memory (freed with free_text).
     char *host_text(const std::string &text);
@@ -104,6 +103,41 @@ struct test_host {
 
     // Host-side blocks to free when the host goes away (texts of lists and so on).
     std::vector<std::pair<void *, uint32_t>> owned;
+
+    // Records and lists in host memory that the host holds for a test and
+    // frees in finish(): a list with the entries it then holds (the editor
+    // adds and removes entries of such lists itself), each freed with the
+    // size of the entries the list was made of, so an entry of another size
+    // shows up as a mismatch.
+    template <class T>
+    T *held_record(const T &initial) {
+        T *r = copy_block(initial);
+        held_.push_back({r, sizeof(T), false});
+        return r;
+    }
+    // A null pointer among `entries` stays a null value in the list.
+    template <class T>
+    dlist_node *held_entries(const std::vector<const T *> &entries) {
+        std::vector<uintptr_t> values;
+        for (const T *e : entries) values.push_back(e ? reinterpret_cast<uintptr_t>(copy_block(*e)) : 0);
+        return hold_list(build_list(values), sizeof(T));
+    }
+    template <class T>
+    dlist_node *held_entries(std::initializer_list<T> entries) {
+        std::vector<const T *> pointers;
+        for (const T &e : entries) pointers.push_back(&e);
+        return held_entries(pointers);
+    }
+    dlist_node *held_names(const std::vector<std::string> &texts);
+
+private:
+    struct held_block {
+        void *block;
+        uint32_t size;  // of the record, or of a list's entries (0: not freed)
+        bool list;
+    };
+    std::vector<held_block> held_;
+    dlist_node *hold_list(dlist_node *list, uint32_t entry_size);
 };
 
 // The host that the static host operations talk to.

@@ -1,7 +1,7 @@
-// Air support tests: a started editor, routes and ARSP lists in host memory
-// (freed with their entries at the end of each test, so an entry the editor
-// allocated with another size shows up), records and entries compared as
-// raw bytes.
+// Air support tests: a started editor, routes and ARSP lists held by the
+// host (freed with their entries at the end of each test, so an entry the
+// editor allocated with another size shows up), records and entries compared
+// as raw bytes.
 #pragma once
 
 #include <cstring>
@@ -33,33 +33,9 @@ inline bombing_waypoint waypoint(const char *name, float height) {
 
 class air_test : public editor_test {
 protected:
-    std::vector<std::pair<dlist_node *, uint32_t>> lists;  // with their entries' size; 0: texts
-
     void SetUp() override {
         editor_test::SetUp();
         ASSERT_EQ(start_editor(), 1);
-    }
-    void TearDown() override {
-        ui_driver::close_all_dialogs();
-        for (auto &list : lists) {
-            for (void *entry : dlist_values<void>(list.first))
-                if (list.second) host.memory.free(entry, list.second);
-            host.free_list(list.first);
-        }
-        editor_test::TearDown();
-    }
-    template <class T>
-    dlist_node *list_of(std::initializer_list<T> entries) {
-        std::vector<uintptr_t> values;
-        for (const T &e : entries) values.push_back(dlist_value(std::memcpy(host.memory.alloc(sizeof e), &e, sizeof e)));
-        lists.push_back({host.build_list(values), sizeof(T)});
-        return lists.back().first;
-    }
-    dlist_node *names_of(const lines &texts) {
-        std::vector<uintptr_t> values;
-        for (const std::string &t : texts) values.push_back(dlist_value(host.host_text(t)));
-        lists.push_back({host.build_list(values), 0});
-        return lists.back().first;
     }
     template <class T>
     static std::string entries_of(const dlist_node *list) {

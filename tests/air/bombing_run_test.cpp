@@ -16,9 +16,9 @@ protected:
         run.attack_radius = 100.5f;
         std::strcpy(run.aircraft_type, "f-16");
         run.aircraft_count = 2;
-        run.ingress = list_of({waypoint("wp1", 50), waypoint("WP_a", 120.25f)});
-        run.egress = list_of<bombing_waypoint>({});
-        run.aircraft_types = names_of({"Tornado", "A-10", "F-16"});
+        run.ingress = host.held_entries({waypoint("wp1", 50), waypoint("WP_a", 120.25f)});
+        run.egress = host.held_entries<bombing_waypoint>({});
+        run.aircraft_types = host.held_names({"Tornado", "A-10", "F-16"});
     }
     int edit(std::initializer_list<step> steps) {
         return drive("Edit Bombing Run Details", steps, [&] { return editor_window(REQUEST_BOMBING_RUN, dlist_value(&run), 0); });
@@ -129,7 +129,7 @@ TEST_F(bombing_run_test, aircraft_type_search_and_count_selection_and_no_dialog_
         {types, "Zulu", 9, ",", "Zulu"},         {{}, "Zulu", 1, ",1", "Zulu"},
     };
     for (const auto &c : cases) {
-        run.aircraft_types = c.types.empty() ? nullptr : names_of(c.types);
+        run.aircraft_types = c.types.empty() ? nullptr : host.held_names(c.types);
         std::strcpy(run.aircraft_type, c.stored.c_str());
         run.aircraft_count = c.count;
         EXPECT_EQ(1, edit({[&](HWND dlg) {

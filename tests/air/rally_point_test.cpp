@@ -25,7 +25,7 @@ protected:
         std::memset(&point, 0xEE, sizeof point);
         std::strcpy(point.name, "RP North");
         point.x = 100, point.y = 7, point.z = -5;
-        point.arsp_locations = list_of<arsp_location>({});
+        point.arsp_locations = host.held_entries<arsp_location>({});
     }
     int edit(std::initializer_list<step> steps) {
         return drive("Edit Rally Point Details", steps, [&] { return editor_window(REQUEST_RALLY_POINT, dlist_value(&point), 0); });
@@ -68,7 +68,7 @@ TEST_F(rally_point_test, a_designers_whole_edit_reaches_the_record_byte_by_byte)
 // while a wider sum would land further on.
 TEST_F(rally_point_test, cancel_keeps_added_locations_summed_in_single_precision) {
     point.x = 33554432.0f;
-    point.arsp_locations = list_of<arsp_location>({{1, 2, 3}});
+    point.arsp_locations = host.held_entries<arsp_location>({{1, 2, 3}});
     rally_point_record before = point;
     before.cancelled = 1;
     for (bool close : {false, true}) {
@@ -84,7 +84,7 @@ TEST_F(rally_point_test, cancel_keeps_added_locations_summed_in_single_precision
 
 // Update takes both numbers or neither; no dialog opens without a record.
 TEST_F(rally_point_test, update_needs_both_numbers_and_nothing_opens_without_a_record) {
-    point.arsp_locations = list_of<arsp_location>({{1, 2, 3}});
+    point.arsp_locations = host.held_entries<arsp_location>({{1, 2, 3}});
     lines seen;
     EXPECT_EQ(1, edit({noting(seen, arsp, update("5", "nan", 0)),
                        noting(seen, arsp, update("", "5", 0)),  // the list not even refilled

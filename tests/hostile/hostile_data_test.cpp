@@ -123,7 +123,7 @@ TEST_F(hostile_data_test, ground_dialogs_cut_unterminated_names_within_their_fie
 
 TEST_F(hostile_data_test, object_name_list_skips_empty_nodes_and_cuts_names) {
     unit_entry plain = test_host::unit(8, "Jeep3", "jeep"), hostile = unit(7, 'E', 'F');
-    dlist_node *objects = entries<unit_entry>({&hostile, nullptr, &plain});
+    dlist_node *objects = host.held_entries<unit_entry>({&hostile, nullptr, &plain});
     EXPECT_EQ(drive(script{{"Dialog", noting(seen, screen({IDC_ON_LIST}), picking(IDC_ON_LIST, 0, press(IDC_ON_EDIT_NAME)))},
                            {"", noting(seen, screen({IDC_EN_NAME}), press(IDOK))},
                            {"Dialog", press(IDOK)}},
@@ -144,8 +144,8 @@ TEST_F(hostile_data_test, heli_dialogs_cut_unterminated_names_and_skip_empty_nod
     fill(g->name, 'H');
     g->rally_point_id = 5;
     const unit_entry member = unit(9, 'U', 'V'), spare = unit(10, 'S', 'T');
-    host.heli.append(g->members, block(member));
-    dlist_node *available = entries<unit_entry>({&spare});
+    host.heli.append(g->members, host.copy_block(member));
+    dlist_node *available = host.held_entries<unit_entry>({&spare});
 
     // A route with an empty node; its second waypoint holds orders whose
     // entries fill their names, each list with an empty node of its own.
@@ -167,8 +167,8 @@ TEST_F(hostile_data_test, heli_dialogs_cut_unterminated_names_and_skip_empty_nod
     pickup_entry sarge;
     fill(sarge.name, 'K');  // all 25 bytes, the last before the untouchable page
     for (dlist_node *list : {deploy->body.deploy, pickup->body.pickup, unnamed->orders}) {
-        const void *first = list == deploy->body.deploy ? static_cast<const void *>(block(cargo))
-                            : list == pickup->body.pickup ? static_cast<const void *>(block(sarge))
+        const void *first = list == deploy->body.deploy ? static_cast<const void *>(host.copy_block(cargo))
+                            : list == pickup->body.pickup ? static_cast<const void *>(host.copy_block(sarge))
                                                           : static_cast<const void *>(deploy);
         host.heli.append(list, first);
         host.heli.append(list, nullptr);
@@ -223,16 +223,16 @@ TEST_F(hostile_data_test, air_dialogs_cut_unterminated_names_and_offer_no_name_t
     fill(run.name, 'B');
     fill(run.aircraft_type, 'T');
     run.aircraft_count = 2;
-    run.ingress = entries<bombing_waypoint>({&inbound});
+    run.ingress = host.held_entries<bombing_waypoint>({&inbound});
     run.egress = waypoints({"WP2"});
     const std::string long_type = run_of('A', 40), full_type = run_of('A', 32), type = run_of('T');
-    run.aircraft_types = names({"A-10", long_type.c_str(), full_type.c_str(), type.c_str()});
-    bombing_run_record *r = record(run);
+    run.aircraft_types = host.held_names({"A-10", long_type.c_str(), full_type.c_str(), type.c_str()});
+    bombing_run_record *r = host.held_record(run);
     rally_point_record point{};
     fill(point.name, 'R');
     const arsp_location far_off = {-3.4e38f, 0.0f, 3.4e38f};
-    point.arsp_locations = entries<arsp_location>({&far_off});
-    rally_point_record *p = record(point);
+    point.arsp_locations = host.held_entries<arsp_location>({&far_off});
+    rally_point_record *p = host.held_record(point);
     host.markers = {run_of('L', 40), run_of('M'), "WP1"};
 
     auto types = [](HWND dialog) {
@@ -265,7 +265,7 @@ TEST_F(hostile_data_test, reference_name_and_info_line_cut_what_the_host_overfil
     create_objects_record objects{};
     objects.preset = objects.enabled = CO_TYPE | CO_REF_OBJ;
     fill(objects.ref_obj, 'R');
-    create_objects_record *o = record(objects);
+    create_objects_record *o = host.held_record(objects);
     EXPECT_EQ(drive("Create New Objects", {noting(seen, screen({IDC_CO_REF_OBJ}), press(IDOK))},
                     [&] { return create_objects_dialog(o); }),
               1);

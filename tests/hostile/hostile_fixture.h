@@ -1,6 +1,6 @@
 // Shared set-up of the hostile tests: a started editor over a host with a
-// few names in each list, and records and lists in host memory (whose blocks
-// end at untouchable pages), freed at the end of each test.
+// few names in each list, and records and lists the host holds (whose blocks
+// end at untouchable pages) until the end of each test.
 #pragma once
 
 #include <cstring>
@@ -30,36 +30,10 @@ protected:
         editor_test::TearDown();
     }
 
-    // A copy of `initial` in host memory.
-    template <class T>
-    T *block(const T &initial) {
-        return static_cast<T *>(std::memcpy(host.memory.alloc(sizeof(T)), &initial, sizeof(T)));
-    }
-    template <class T>
-    T *record(const T &initial) {
-        T *r = block(initial);
-        cleanup.push_back([this, r] { host.memory.free(r, sizeof(T)); });
-        return r;
-    }
     heli_order_record *order(uint32_t kind) {
         heli_order_record *o = host.heli.create_order(kind);
         cleanup.push_back([this, o] { host.heli.destroy_order(o); });
         return o;
-    }
-    // A host list of copies of `values` (null pointers stay null). At the end
-    // it is freed with the entries it then holds: the editor adds and frees
-    // entries of such lists itself.
-    template <class T>
-    dlist_node *entries(const std::vector<const T *> &values) {
-        std::vector<uintptr_t> copies;
-        for (const T *v : values) copies.push_back(v ? reinterpret_cast<uintptr_t>(block(*v)) : 0);
-        dlist_node *list = host.build_list(copies);
-        cleanup.push_back([this, list] {
-            for (void *entry : hostile_test::values<void>(list))
-                if (entry) host.memory.free(entry, host.memory.size_of(entry));
-            host.free_list(list);
-        });
-        return list;
     }
     // Bombing waypoints of these marker names at height 75.5.
     dlist_node *waypoints(std::initializer_list<const char *> markers) {
@@ -73,16 +47,8 @@ protected:
         }
         std::vector<const bombing_waypoint *> pointers;
         for (const bombing_waypoint &w : made) pointers.push_back(&w);
-        return entries(pointers);
+        return host.held_entries(pointers);
     }
-    dlist_node *names(std::initializer_list<const char *> texts) {
-        std::vector<uintptr_t> values;
-        for (const char *t : texts) values.push_back(reinterpret_cast<uintptr_t>(host.host_text(t)));
-        dlist_node *list = host.build_list(values);
-        cleanup.push_back([this, list] { host.free_list(list); });
-        return list;
-    }
-
     template <class T>
     static std::vector<T *> values(const dlist_node *list) {
         std::vector<T *> out;

@@ -217,7 +217,7 @@ protected:
     // A fresh copy of `initial` in host memory for each run.
     template <class R>
     std::function<void *()> copy_of(const R &initial) {
-        return [this, initial] { return static_cast<void *>(record(initial)); };
+        return [this, initial] { return static_cast<void *>(host.held_record(initial)); };
     }
     template <class R>
     std::function<int(void *)> opening(int (*open)(HWND, R *)) {
@@ -251,14 +251,14 @@ protected:
             bombing_run_record r{0, "Bridge Strike", 1200.5f, 0.0f, -340.25f, 300.0f, 150.0f, 120.0f, "A-10", 2};
             r.ingress = waypoints({"WP1"});
             r.egress = waypoints({"WP2"});
-            r.aircraft_types = names({"A-10", "Jaguar"});
-            return run_edited = record(r);
+            r.aircraft_types = host.held_names({"A-10", "Jaguar"});
+            return run_edited = host.held_record(r);
         };
         auto rally_point = [this] {
             const arsp_location location = {402.0f, 12.0f, 900.5f};
             rally_point_record r{0, "RP Alpha", 400.0f, 12.0f, 900.5f};
-            r.arsp_locations = entries<arsp_location>({&location});
-            return point_edited = record(r);
+            r.arsp_locations = host.held_entries<arsp_location>({&location});
+            return point_edited = host.held_record(r);
         };
         auto first_of = [](dlist_node *list) { return reinterpret_cast<void *>(list->next->value); };
         // The twelve landing positions take the input all at once.
@@ -359,7 +359,7 @@ protected:
         static dlist_node *entries_edited = nullptr;
         auto one_entry = [this, first_of](const auto &entry) -> std::function<void *()> {
             return [this, first_of, entry] {
-                return first_of(entries_edited = entries<std::decay_t<decltype(entry)>>({&entry}));
+                return first_of(entries_edited = host.held_entries<std::decay_t<decltype(entry)>>({&entry}));
             };
         };
         const deploy_entry cargo{"Tank1", 1.5f, 0.0f, -2.0f};
