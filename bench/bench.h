@@ -29,6 +29,9 @@ struct bench_host {
     // memory for the whole run.
     std::vector<std::string> reference_names, markers, formations, message_targets, rally_points;
     std::vector<unit_entry> units;
+    // Empties every list above, before each scenario's data is built, so
+    // that no scenario shows another's lists.
+    void forget_lists();
 
     // Lists in host memory.
     dlist_node *list(const std::vector<const void *> &values);

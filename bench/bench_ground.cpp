@@ -101,7 +101,6 @@ scenario composition(const char *name, bool with_groups) {
             "Dialog",
             [with_groups](int n) {
                 bench_host &h = bench();
-                h.units.clear();
                 for (int id = 1; id <= n; ++id) h.units.push_back(make_unit(id));
                 make_groups(with_groups ? n / 10 : 0, n + 1);
             },
@@ -183,7 +182,6 @@ std::vector<scenario> ground_scenarios() {
                        h.markers = names("marker", n);
                        h.formations = names("formation", n);
                        h.message_targets = names("target", n);
-                       h.units.clear();
                        make_groups(0, 1);
                        sarge_order_record &order = data.edited->orders[0];
                        order.type = SARGE_ORDER_ADVANCE;

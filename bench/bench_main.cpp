@@ -325,6 +325,11 @@ dlist_node *bench_host::list(const std::vector<const void *> &values) {
 
 void bench_host::free_list(dlist_node *head) { heli.free_list(head); }
 
+void bench_host::forget_lists() {
+    for (auto *names : {&reference_names, &markers, &formations, &message_targets, &rally_points}) names->clear();
+    units.clear();
+}
+
 void click_through(std::vector<HWND> parents, std::function<void()> act) {
     UINT_PTR timer = SetTimer(nullptr, 0, 0, run_click);
     pending_clicks()[timer] = [parents, act] {
@@ -387,6 +392,7 @@ int main(int argc, char **argv) {
             std::vector<floor_control> lines = s.floor(n);
             for (int r = 0; r < runs; ++r) {
                 // The editor's dialog, through the exports.
+                h.forget_lists();
                 s.prepare(n);
                 run = run_state{};
                 run.current = &s;
