@@ -34,6 +34,7 @@ TEST(line_batch, fills_as_a_line_by_line_fill_does) {
     const std::vector<std::vector<std::string>> inputs = {
         {"Tank2 (tank)", "apc1 (apc)", "Tank10 (tank)", "_wp", "Zulu", "alpha", "Bravo", "2nd", "10th", "WP-North"},
         {"b", "B", "a", "A", "b", "c"},  // lines that rank equal
+        {"\xC4rger", "\xE9t\xE9", "zulu", "\xFF", "Ebene"},  // bytes above 127, converted as the control would
         {"only"},
         {},
     };
