@@ -69,6 +69,13 @@ void release() {
     data = heli_data{};
 }
 
+// A group of one waypoint, with N markers offered to its dialogs.
+void one_waypoint_over_markers(int n) {
+    bench().markers = names("marker", n);
+    data.available = units(0);
+    make_group(1);
+}
+
 void open_group() {
     bench().editor.window(REQUEST_EDIT_HELI_GROUP, reinterpret_cast<uintptr_t>(data.group),
                           reinterpret_cast<uintptr_t>(data.available));
@@ -156,11 +163,7 @@ std::vector<scenario> heli_scenarios() {
     all.push_back({"edit_waypoint",
                    IDD_EDIT_WAYPOINT,
                    "Edit Waypoint",
-                   [](int n) {
-                       bench().markers = names("marker", n);
-                       data.available = units(0);
-                       make_group(1);
-                   },
+                   one_waypoint_over_markers,
                    open_group,
                    [](HWND dialog, const std::string &title) {
                        chain(dialog, title,
@@ -175,11 +178,7 @@ std::vector<scenario> heli_scenarios() {
     all.push_back({"patrol_order",
                    IDD_PATROL_ORDER,
                    "Edit Patrol Order",
-                   [](int n) {
-                       bench().markers = names("marker", n);
-                       data.available = units(0);
-                       make_group(1);
-                   },
+                   one_waypoint_over_markers,
                    open_group,
                    [](HWND dialog, const std::string &title) {
                        chain(dialog, title,

@@ -201,11 +201,9 @@ dlist_node *test_host::build_list(const std::vector<uintptr_t> &values) {
 void test_host::free_list(dlist_node *head) { heli.free_list(head); }
 
 char *test_host::host_text(const std::string &text) {
-    auto size = static_cast<uint32_t>(text.size() + 1);
-    auto *copy = static_cast<char *>(std::malloc(size));
-    std::memcpy(copy, text.c_str(), size);
-    owned.push_back({copy, size});
-    return copy;
+    texts_.emplace_back(new char[text.size() + 1]);
+    std::memcpy(texts_.back().get(), text.c_str(), text.size() + 1);
+    return texts_.back().get();
 }
 
 unit_entry test_host::unit(int32_t id, const std::string &name, const std::string &type_name) {

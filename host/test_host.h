@@ -10,6 +10,7 @@
 #include <cstring>
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -87,7 +88,7 @@ struct test_host {
     T *copy_block(const T &record) {
         return static_cast<T *>(std::memcpy(memory.alloc(sizeof record), &record, sizeof record));
     }
-    // Copies a text into host memory (freed with free_text).
+    // A copy of a text the host keeps until it goes (names in its lists).
     char *host_text(const std::string &text);
 
     editor_setup setup();
@@ -100,9 +101,6 @@ struct test_host {
     // records destroyed twice or left live, leaks, unknown frees, size
     // mismatches), with the allocator and records forgotten for the next.
     std::vector<std::string> finish();
-
-    // Host-side blocks to free when the host goes away (texts of lists and so on).
-    std::vector<std::pair<void *, uint32_t>> owned;
 
     // Records and lists in host memory that the host holds for a test and
     // frees in finish(): a list with the entries it then holds (the editor
@@ -137,6 +135,7 @@ private:
         bool list;
     };
     std::vector<held_block> held_;
+    std::vector<std::unique_ptr<char[]>> texts_;
     dlist_node *hold_list(dlist_node *list, uint32_t entry_size);
 };
 

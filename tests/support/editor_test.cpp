@@ -21,8 +21,6 @@ void editor_test::TearDown() {
     std::string all;
     for (const std::string &p : host.finish()) all += p + "\n";
     EXPECT_TRUE(all.empty()) << all;
-    for (auto &block : host.owned) std::free(block.first);
-    host.owned.clear();
     host.clear_settings();
     current_host = nullptr;
 }
